@@ -1,0 +1,3 @@
+#include "advanced/KeyboardAdvWid.h"
+
+KeyboardAdvWid::KeyboardAdvWid(QWidget *parent) : QWidget(parent) {}

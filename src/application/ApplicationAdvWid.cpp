@@ -1,0 +1,3 @@
+#include "application/ApplicationAdvWid.h"
+
+ApplicationAdvWid::ApplicationAdvWid(QWidget *parent) : QWidget(parent) {}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "host/KeyContent.h"
+#include "host/StoreState.h"
+
+#include <vector>
+
+/// One key as the device gets it.
+struct DeviceKey
+{
+    KeyContent content; ///< as stored; it says the function in words and colours
+    /// What the key plays as it goes down: the macro record of an application function, the chord
+    /// of a hot key, shortcut or extended code, or the named macro. A `count` of 0: nothing is
+    /// played, and the mapping alone holds.
+    vantrix_macro_record sequence;
+};
+bool operator==(const DeviceKey &a, const DeviceKey &b);
+inline bool operator!=(const DeviceKey &a, const DeviceKey &b)
+{
+    return !(a == b);
+}
+
+/// The complete image of a profile, all that a device needs to act by itself.
+struct DeviceImage
+{
+    int owner = 0;
+    int profile = 0;
+    std::array<DeviceKey, KeyCount> keys;
+
+    /// Image of a profile of the store.
+    static DeviceImage of(const StoreState &state, int owner, int profile);
+    /// What a device acts by that was never sent that profile: nothing assigned.
+    static DeviceImage factory(int owner, int profile);
+
+    QByteArray toBytes() const;
+    static std::optional<DeviceImage> fromBytes(const QByteArray &bytes);
+};
+bool operator==(const DeviceImage &a, const DeviceImage &b);
+inline bool operator!=(const DeviceImage &a, const DeviceImage &b)
+{
+    return !(a == b);
+}
+
+/// One key that differs between two images, in words.
+struct DeviceDifference
+{
+    int keyIdx = 0;
+    DeviceKey before;
+    DeviceKey after;
+    QString beforeText; ///< as KeyText::functionName
+    QString afterText;  ///< differs from `beforeText`, also when only a macro's events changed
+};
+/// All keys that differ, in key order.
+std::vector<DeviceDifference> differences(const DeviceImage &before, const DeviceImage &after);
+
+/// A record that presses the codes in order and releases them in the opposite order, 20
+/// milliseconds apart. A code that is to be pressed again is released first ("00").
+vantrix_macro_record chordRecord(const std::vector<ushort> &codes, ushort recordCode);
+/// Device codes of a hot key's text, e.g. "CTRL+SHIFT+S"; empty when a part is not known.
+std::vector<ushort> hotKeyCodes(const QString &hotKey);

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class ProfileStore;
+
+/// Where the reference host keeps and finds its files.
+///
+/// | what                | where                                                             |
+/// |---------------------|-------------------------------------------------------------------|
+/// | store               | `<data>/profiles.sqlite`                                          |
+/// | hot-key catalog     | the setting `hotKeysFolder`, else `<data>/hotkeys`, else          |
+/// |                     | `<share>/hotkeys`: the first that is a folder                     |
+/// | latest known paths  | `<data>/reset.ini`, group `LatestAppPath`, keys `0`, `1`, `2`     |
+///
+/// The data folder is the user's; the share folder comes with the program and is found from where
+/// the program lies, in a build tree as well as installed.
+class HostLocations
+{
+public:
+    /// Name of the setting that names another catalog.
+    static QString hotKeysFolderKey();
+
+    /// The standard data folder and the share folder of this program. `dataFolder` replaces the
+    /// former.
+    explicit HostLocations(const QString &dataFolder = QString());
+
+    const QString &dataFolder() const { return m_data; }
+    /// Empty if there is none.
+    const QString &shareFolder() const { return m_share; }
+    void setShareFolder(const QString &folder) { m_share = folder; }
+    QString storeFile() const;
+    QString hotKeysFolder(const ProfileStore &store) const;
+    QStringList latestAppPaths() const;
+    /// Keeps a path for the next time an application is looked for.
+    void setLatestAppPath(int appType, const QString &path);
+
+    /// Tells CfgFile all of it. To be repeated when a setting changed.
+    void install(const ProfileStore &store) const;
+
+private:
+    QString m_data;
+    QString m_share;
+};

@@ -1,0 +1,34 @@
+#include "host/KeyContent.h"
+
+namespace {
+
+constexpr int BacklightKey = 21;
+constexpr ushort BacklightKeyCode = 385;
+
+} // namespace
+
+bool operator==(const KeyContent &a, const KeyContent &b)
+{
+    return a.mapping == b.mapping && a.app == b.app && a.hotKey == b.hotKey &&
+           a.shortcut == b.shortcut && a.extended == b.extended && a.macroName == b.macroName;
+}
+
+vantrix_key_mapping freshMapping(int keyIdx)
+{
+    return keyIdx == BacklightKey ? plainKey(BacklightKeyCode) : clearedKey();
+}
+
+KeyContent freshKey(int keyIdx)
+{
+    KeyContent key;
+    key.mapping = freshMapping(keyIdx);
+    return key;
+}
+
+ProfileKeys freshKeys()
+{
+    ProfileKeys keys;
+    for (int i = 0; i < KeyCount; ++i)
+        keys[std::size_t(i)] = freshKey(i);
+    return keys;
+}

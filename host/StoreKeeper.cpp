@@ -1,0 +1,295 @@
+#include "host/StoreKeeper.h"
+
+#include "host/StoreMigration.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+StoreKeeper::StoreKeeper(const QString &name) : m_name(name), m_lock(name + QStringLiteral(".lock"))
+{
+    // a lock never grows old: it ends with its process, which the lock file itself finds out
+    m_lock.setStaleLockTime(0);
+}
+
+StoreKeeper::~StoreKeeper() = default;
+
+StoreContent StoreKeeper::open()
+{
+    StoreContent content;
+    if (m_name.isEmpty())
+        return content;
+    QDir().mkpath(QFileInfo(m_name).absolutePath());
+    if (!lock() && m_lock.error() == QLockFile::LockFailedError) {
+        readOnly(&content);
+        return content;
+    }
+    takeOver(&content);
+    return content;
+}
+
+bool StoreKeeper::lock()
+{
+    return m_lock.isLocked() || m_lock.tryLock(0);
+}
+
+void StoreKeeper::readOnly(StoreContent *content)
+{
+    m_access = SecondReader;
+    readElsewhere(m_name, content);
+    say(tr("Another window has the store %1 open. It is shown here, but changes made here are "
+           "not kept.")
+            .arg(shortName(m_name)));
+}
+
+void StoreKeeper::readElsewhere(const QString &name, StoreContent *content)
+{
+    StoreFile file;
+    const StoreError error = file.open(name, StoreFile::ReadOnlyAccess);
+    if (error == StoreError::None)
+        file.load(content);
+    if (error != StoreError::Older)
+        return;
+    const QTemporaryDir elsewhere;
+    const QString copy = elsewhere.filePath(QStringLiteral("store"));
+    if (StoreMigration::migrate(name, copy) == StoreError::None)
+        readElsewhere(copy, content);
+}
+
+/// Opens the file for writing; on failure `content` is what can be read all the same.
+bool StoreKeeper::takeOver(StoreContent *content)
+{
+    const StoreError error = openAny(content);
+    if (error == StoreError::None) {
+        m_access = Writer;
+        return true;
+    }
+    m_file.close();
+    m_access = InMemory;
+    m_writeAll = true;
+    m_saved = false;
+    if (content->state.records().empty())
+        readElsewhere(m_name, content);
+    report(error);
+    return false;
+}
+
+StoreError StoreKeeper::openAny(StoreContent *content)
+{
+    if (!QFile::exists(m_name))
+        return openNew(content);
+    m_backupIsFresh = !QFile::exists(m_name + QStringLiteral("-wal")) &&
+                      QFileInfo(backupName()).lastModified() >= QFileInfo(m_name).lastModified();
+    const StoreError error = m_file.open(m_name, StoreFile::ReadWrite);
+    switch (error) {
+    case StoreError::None:
+        return openAndLoad(content);
+    case StoreError::Older:
+        return openOlder(content);
+    case StoreError::Damaged:
+    case StoreError::Newer:
+        return openInsteadOf(error, content);
+    default:
+        return error;
+    }
+}
+
+StoreError StoreKeeper::openAndLoad(StoreContent *content)
+{
+    StoreContent loaded;
+    StoreError error = m_file.load(&loaded);
+    if (error == StoreError::Damaged)
+        return openInsteadOf(error, content);
+    if (error != StoreError::None)
+        return error;
+    *content = loaded;
+    // a file in a folder that can't be written opens without complaint, so ask it
+    error = m_file.probe();
+    if (error == StoreError::None && !m_backupIsFresh)
+        m_file.copyTo(backupName());
+    return error;
+}
+
+StoreError StoreKeeper::openNew(StoreContent *content)
+{
+    if (restoreBackup())
+        say(tr("The store %1 was missing. The last good copy of it is used.")
+                .arg(shortName(m_name)));
+    else if (const StoreError error = StoreFile::create(m_name); error != StoreError::None)
+        return error;
+    const StoreError error = m_file.open(m_name, StoreFile::ReadWrite);
+    return error == StoreError::None ? openAndLoad(content) : error;
+}
+
+/// Puts the last good copy, if it is good, where the store should be.
+bool StoreKeeper::restoreBackup()
+{
+    StoreFile backup;
+    return QFile::exists(backupName()) &&
+           backup.open(backupName(), StoreFile::ReadOnlyAccess) == StoreError::None &&
+           backup.copyTo(m_name) == StoreError::None;
+}
+
+StoreError StoreKeeper::openInsteadOf(StoreError error, StoreContent *content)
+{
+    m_file.close();
+    const bool newer = error == StoreError::Newer;
+    const QString aside =
+        StoreFile::setAside(m_name, newer ? QStringLiteral("newer") : QStringLiteral("broken"));
+    const QString reason = newer
+                               ? tr("The store %1 was written by a newer version of this program.")
+                               : tr("The store %1 is damaged and cannot be read.");
+    QString outcome = aside.isEmpty() ? tr("It was left as it is.")
+                                      : tr("It was kept as %1.").arg(shortName(aside));
+    if (aside.isEmpty())
+        readElsewhere(backupName(), content);
+    const bool restored = aside.isEmpty() ? !content->state.records().empty() : restoreBackup();
+    outcome += QLatin1Char(' ') +
+               (restored ? tr("The last good copy is used.")
+                         : tr("There is no good copy of it, so everything starts empty."));
+    say(reason.arg(shortName(m_name)) + QLatin1Char(' ') + outcome);
+    return aside.isEmpty() ? StoreError::ReadOnly : openNew(content);
+}
+
+StoreError StoreKeeper::openOlder(StoreContent *content)
+{
+    m_file.close();
+    const QString kept =
+        QStringLiteral("%1.v%2").arg(m_name).arg(StoreMigration::versionOf(m_name));
+    StoreFile original;
+    original.open(m_name, StoreFile::ReadOnlyAccess);
+    StoreError error = original.copyTo(kept);
+    original.close();
+    if (error == StoreError::None)
+        error = StoreMigration::migrate(m_name, m_name);
+    if (error == StoreError::None)
+        error = m_file.open(m_name, StoreFile::ReadWrite);
+    if (error == StoreError::None) {
+        say(tr("The store %1 was brought up to date. The file of the earlier version was kept as "
+               "%2.")
+                .arg(shortName(m_name), shortName(kept)));
+        return openAndLoad(content);
+    }
+    return error;
+}
+
+bool StoreKeeper::reopen()
+{
+    if (!lock())
+        return false;
+    StoreContent ignored;
+    const StoreError error = openAny(&ignored);
+    if (error != StoreError::None) {
+        m_file.close();
+        report(error);
+        return false;
+    }
+    m_access = Writer;
+    m_writeAll = true;
+    return true;
+}
+
+/// Sees to it that what is written goes to the file of that name.
+bool StoreKeeper::checkPlace()
+{
+    if (m_file.isInPlace())
+        return true;
+    m_file.close();
+    m_writeAll = true;
+    if (QFile::exists(m_name)) {
+        const QString aside = StoreFile::setAside(m_name, QStringLiteral("replaced"));
+        say(tr("The store %1 was replaced by another file while the program was running. That "
+               "file was kept as %2, and the store was written again.")
+                .arg(shortName(m_name), shortName(aside)));
+    } else {
+        say(tr("The store %1 was removed while the program was running. It was written again.")
+                .arg(shortName(m_name)));
+    }
+    QDir().mkpath(QFileInfo(m_name).absolutePath());
+    for (const QString &left : {QStringLiteral("-wal"), QStringLiteral("-shm")})
+        QFile::remove(m_name + left);
+    if (StoreFile::create(m_name) == StoreError::None &&
+        m_file.open(m_name, StoreFile::ReadWrite) == StoreError::None)
+        return true;
+    m_file.close();
+    m_access = InMemory;
+    return false;
+}
+
+bool StoreKeeper::save(const StoreState &state, const StoreHistory &history,
+                       const std::set<RecordId> &changed)
+{
+    if (m_name.isEmpty()) {
+        ++m_transactions;
+        return true;
+    }
+    if (m_access == SecondReader)
+        return true;
+    m_saved = false;
+    const bool ready = m_access == Writer ? checkPlace() : reopen();
+    if (!ready)
+        return false;
+    const StoreError error =
+        m_writeAll ? m_file.saveAll(state, history) : m_file.save(state, history, changed);
+    if (error != StoreError::None) {
+        if (error == StoreError::ReadOnly || error == StoreError::Damaged) {
+            // such a connection does not recover by itself
+            m_file.close();
+            m_access = InMemory;
+        }
+        report(error);
+        return false;
+    }
+    ++m_transactions;
+    m_backupIsFresh = false;
+    m_writeAll = false;
+    m_saved = true;
+    if (m_reported != StoreError::None)
+        say(tr("All changes are saved again."));
+    m_reported = StoreError::None;
+    return true;
+}
+
+void StoreKeeper::close()
+{
+    if (m_access == Writer && m_saved && m_file.isOpen() && !m_backupIsFresh && m_file.isInPlace())
+        m_file.copyTo(backupName());
+    m_file.close();
+    m_lock.unlock();
+    m_access = InMemory;
+}
+
+void StoreKeeper::report(StoreError error)
+{
+    // once is enough: the same trouble comes back with every attempt to save
+    if (error == m_reported)
+        return;
+    m_reported = error;
+    const QString name = shortName(m_name);
+    const QString meanwhile =
+        QLatin1Char(' ') + tr("Changes are kept in memory and saved as soon as possible.");
+    if (error == StoreError::Full)
+        say(tr("There is no room on the disk for the store %1.").arg(name) + meanwhile);
+    else if (error == StoreError::Busy)
+        say(tr("Another program is using the store %1.").arg(name) + meanwhile);
+    else
+        say(tr("The store %1 cannot be written.").arg(name) + meanwhile);
+}
+
+void StoreKeeper::say(const QString &message)
+{
+    m_messages << message;
+}
+
+QStringList StoreKeeper::takeMessages()
+{
+    QStringList messages;
+    messages.swap(m_messages);
+    return messages;
+}
+
+QString StoreKeeper::shortName(const QString &name) const
+{
+    return QFileInfo(name).fileName();
+}

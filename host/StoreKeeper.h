@@ -1,0 +1,77 @@
+#pragma once
+
+#include "host/StoreFile.h"
+
+#include <QCoreApplication>
+#include <QLockFile>
+#include <QStringList>
+
+/// Keeps a store's memory on disk, whatever happens to the disk. It decides what StoreFile does:
+///
+/// - One writer: a lock file beside the store; who comes second reads only.
+/// - A file that is damaged or newer is set aside under a numbered name, never written to; the
+///   last good copy ("name.bak", made when a store is opened and closed in good health) takes its
+///   place.
+/// - A file of an earlier version is migrated on a copy; the original stays as "name.v1".
+/// - A file that cannot be written leaves everything in memory, and each later `save` tries again.
+///
+/// What the user should know is put in plain words into `takeMessages`.
+class StoreKeeper
+{
+    Q_DECLARE_TR_FUNCTIONS(StoreKeeper)
+
+public:
+    /// An empty name keeps nothing on disk.
+    explicit StoreKeeper(const QString &name);
+    ~StoreKeeper();
+
+    /// Finds or makes the file and gives what it holds.
+    StoreContent open();
+    /// Saves rows and steps; true when all that was ever given is on disk. `changed` and the
+    /// history's changed steps must grow until a call returned true.
+    bool save(const StoreState &state, const StoreHistory &history,
+              const std::set<RecordId> &changed);
+    /// Makes the last good copy, then lets go of file and lock. Only after a successful save.
+    void close();
+
+    bool isWriter() const { return m_access == Writer; }
+    bool isSecondReader() const { return m_access == SecondReader; }
+    /// False while changes wait for a disk that takes them.
+    bool isSaved() const { return m_saved; }
+    /// Transactions made so far.
+    int transactionCount() const { return m_transactions; }
+    QStringList takeMessages();
+
+    StoreFile &file() { return m_file; }
+    QString backupName() const { return m_name + QStringLiteral(".bak"); }
+
+private:
+    enum AccessState { InMemory, SecondReader, Writer };
+
+    bool lock();
+    bool takeOver(StoreContent *content);
+    StoreError openAny(StoreContent *content);
+    StoreError openNew(StoreContent *content);
+    StoreError openOlder(StoreContent *content);
+    StoreError openInsteadOf(StoreError error, StoreContent *content);
+    StoreError openAndLoad(StoreContent *content);
+    bool restoreBackup();
+    void readOnly(StoreContent *content);
+    bool reopen();
+    bool checkPlace();
+    void readElsewhere(const QString &name, StoreContent *content);
+    void report(StoreError error);
+    void say(const QString &message);
+    QString shortName(const QString &name) const;
+
+    QString m_name;
+    QLockFile m_lock;
+    StoreFile m_file;
+    QStringList m_messages;
+    AccessState m_access = InMemory;
+    StoreError m_reported = StoreError::None;
+    bool m_writeAll = false;
+    bool m_saved = true;
+    bool m_backupIsFresh = false;
+    int m_transactions = 0;
+};

@@ -1,0 +1,15 @@
+#include "vocabulary/KeyNames.h"
+
+#include "interfaces/IEnvironment.h"
+#include "vocabulary/KeyCodes.h"
+#include "vocabulary/KeyLegends.h"
+
+#include <QCoreApplication>
+
+QString keyLegendOfCode(ushort code)
+{
+    const int scanCode = scanOfKeyCode(code);
+    if (scanCode == 0)
+        return QCoreApplication::translate("KeyCodes", keyFunctionName(code));
+    return keyLegend(scanCode, IEnvironment::Instance()->getLanguage());
+}

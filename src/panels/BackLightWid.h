@@ -1,21 +1,30 @@
 #pragma once
 
-#include "core/records.h"
+#include "panels/FunctionWid.h"
 
-#include <QWidget>
+#include <memory>
 
-class BackLightWid : public QWidget
+namespace Ui {
+class BackLightUi;
+}
+
+/// The panel of the backlight: effects, speed and brightness, the pairs of plus and minus side by
+/// side.
+class BackLightWid : public FunctionWid
 {
     Q_OBJECT
 
 public:
     explicit BackLightWid(QWidget *parent = nullptr);
-
-    void clearChecked();
-
-public slots:
-    void slotVantrixKeySelected(vantrix_key_mapping key);
+    ~BackLightWid() override;
 
 signals:
+    /// The user clicked an entry: `type` 0, `code` its device code, 255 when it was unchecked.
     void sigBackLightChanged(vantrix_key_mapping key);
+
+private slots:
+    void slotKeyClicked(QAbstractButton *button);
+
+private:
+    std::unique_ptr<Ui::BackLightUi> m_ui;
 };

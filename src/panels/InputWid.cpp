@@ -1,12 +1,59 @@
 #include "panels/InputWid.h"
 
-InputWid::InputWid(QWidget *parent) : QWidget(parent) {}
+#include "core/records.h"
+#include "interfaces/IVantrixProfileCfg.h"
+#include "panels/PanelStyle.h"
+#include "vocabulary/KeyCodes.h"
 
-void InputWid::setInput(int) {}
+#include "ui_InputUi.h"
 
-void InputWid::updateUi(int, int) {}
+#include <QButtonGroup>
+#include <QPushButton>
+
+InputWid::InputWid(QWidget *parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::InputUi>()), m_group(new QButtonGroup(this))
+{
+    m_ui->setupUi(this);
+    for (int input = InputType::Keyboard; input <= InputType::PresetMode; ++input) {
+        auto *const button = new QPushButton(tr(inputTypeName(input)), m_ui->widget);
+        button->setCheckable(true);
+        button->setStyleSheet(selectorSheet());
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        m_ui->m_inputLayout->addWidget(button);
+        m_group->addButton(button, input);
+    }
+    connect(m_group, &QButtonGroup::idClicked, this, &InputWid::slotInputChanged);
+}
+
+InputWid::~InputWid() = default;
+
+void InputWid::setInput(int input)
+{
+    QAbstractButton *const button = m_group->button(input);
+    if (!button)
+        return;
+    button->setChecked(true);
+    emit sigInputChanged(input);
+    IVantrixProfileCfg::Instance()->setInput(m_iOwner, m_iProfile, input);
+}
+
+void InputWid::updateUi(int iOwner, int iProfile)
+{
+    m_iOwner = iOwner;
+    m_iProfile = iProfile;
+    setInput(IVantrixProfileCfg::Instance()->getInput(iOwner, iProfile));
+}
 
 QMargins InputWid::innerMargins() const
 {
-    return {};
+    return m_ui->verticalLayout_4->contentsMargins();
+}
+
+void InputWid::slotInputChanged(int input)
+{
+    IVantrixProfileCfg *const store = IVantrixProfileCfg::Instance();
+    if (store->getInput(m_iOwner, m_iProfile) == input)
+        return;
+    store->setInput(m_iOwner, m_iProfile, input);
+    emit sigInputChanged(input);
 }

@@ -1,7 +1,50 @@
 #include "panels/PressoFunWid.h"
 
-PressoFunWid::PressoFunWid(QWidget *parent) : QWidget(parent) {}
+#include "interfaces/ButtonGroupEx.h"
+#include "panels/FixedBtn.h"
+#include "panels/PanelRecords.h"
+#include "vocabulary/KeyCodes.h"
 
-void PressoFunWid::clearChecked() {}
+#include "ui_PressoFunUi.h"
 
-void PressoFunWid::slotVantrixKeySelected(vantrix_key_mapping) {}
+namespace {
+
+class PressoKey : public FixedBtn
+{
+public:
+    PressoKey(const QString &text, QWidget *parent) : FixedBtn(parent)
+    {
+        setText(text);
+        setToolTip(text);
+        setStyleSheet(QStringLiteral("QPushButton{background:transparent;border:1px solid white;"
+                                     "min-height:30px;font-size:11px;}"
+                                     ":hover{background:rgba(255,255,255,50);}"
+                                     ":checked{background:") +
+                      inputColor(InputType::PressoFunctions).name(QColor::HexArgb) +
+                      QStringLiteral(";border:none;}"));
+        fixSize(50, 30);
+    }
+};
+
+} // namespace
+
+PressoFunWid::PressoFunWid(QWidget *parent)
+    : FunctionWid(parent), m_ui(std::make_unique<Ui::PressoFunUi>())
+{
+    m_ui->setupUi(this);
+    for (const ushort code : InputKeyLists().at(InputType::PressoFunctions)) {
+        auto *const button = new PressoKey(tr(keyFunctionName(code)), m_ui->widget);
+        addFunction(button, code);
+        m_ui->m_keyLayout->addWidget(button);
+        m_ui->m_keyLayout->addStretch();
+    }
+    connect(group(), &ButtonGroupEx::sigButtonClicked, this,
+            &PressoFunWid::slotPressoFunKeyClicked);
+}
+
+PressoFunWid::~PressoFunWid() = default;
+
+void PressoFunWid::slotPressoFunKeyClicked(QAbstractButton *button)
+{
+    emit sigPressoFunChanged(recordOfClick(group(), button));
+}

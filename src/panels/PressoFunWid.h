@@ -1,21 +1,29 @@
 #pragma once
 
-#include "core/records.h"
+#include "panels/FunctionWid.h"
 
-#include <QWidget>
+#include <memory>
 
-class PressoFunWid : public QWidget
+namespace Ui {
+class PressoFunUi;
+}
+
+/// The panel of the pressure keys: the deadzone calibration, code 312.
+class PressoFunWid : public FunctionWid
 {
     Q_OBJECT
 
 public:
     explicit PressoFunWid(QWidget *parent = nullptr);
-
-    void clearChecked();
-
-public slots:
-    void slotVantrixKeySelected(vantrix_key_mapping key);
+    ~PressoFunWid() override;
 
 signals:
+    /// The user clicked an entry: `type` 0, `code` its device code, 255 when it was unchecked.
     void sigPressoFunChanged(vantrix_key_mapping key);
+
+private slots:
+    void slotPressoFunKeyClicked(QAbstractButton *button);
+
+private:
+    std::unique_ptr<Ui::PressoFunUi> m_ui;
 };

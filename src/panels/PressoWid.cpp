@@ -1,5 +1,29 @@
 #include "panels/PressoWid.h"
 
-PressoWid::PressoWid(QWidget *parent) : QWidget(parent) {}
+#include "ui_PressoUi.h"
 
-void PressoWid::setPressoEnable(bool) {}
+#include <QButtonGroup>
+#include <QSignalBlocker>
+
+PressoWid::PressoWid(QWidget *parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::PressoUi>()), m_group(new QButtonGroup(this))
+{
+    m_ui->setupUi(this);
+    m_group->addButton(m_ui->m_on, 1);
+    m_group->addButton(m_ui->m_off, 0);
+    connect(m_group, &QButtonGroup::idClicked, this, &PressoWid::sigPressoEnableChanged);
+}
+
+PressoWid::~PressoWid() = default;
+
+void PressoWid::setPressoEnable(bool bEnable)
+{
+    const QSignalBlocker blocker(m_group);
+    m_group->button(bEnable ? 1 : 0)->setChecked(true);
+}
+
+void PressoWid::resizeEvent(QResizeEvent *)
+{
+    m_ui->m_on->fixSize(-1, height() / 5);
+    m_ui->m_off->fixSize(-1, height() / 5);
+}

@@ -1,7 +1,30 @@
 #include "panels/ProfileWid.h"
 
-ProfileWid::ProfileWid(QWidget *parent) : QWidget(parent) {}
+#include "interfaces/ButtonGroupEx.h"
+#include "panels/PanelRecords.h"
+#include "vocabulary/KeyCodes.h"
 
-void ProfileWid::clearChecked() {}
+#include "ui_ProfileUi.h"
 
-void ProfileWid::slotVantrixKeySelected(vantrix_key_mapping) {}
+#include <QPushButton>
+
+ProfileWid::ProfileWid(QWidget *parent)
+    : FunctionWid(parent), m_ui(std::make_unique<Ui::ProfileUi>())
+{
+    m_ui->setupUi(this);
+    for (const ushort code : InputKeyLists().at(InputType::Profile)) {
+        auto *const button =
+            new QPushButton(tr(keyFunctionName(code)), m_ui->scrollAreaWidgetContents_2);
+        button->setStyleSheet(functionSheet(InputType::Profile));
+        addFunction(button, code);
+        m_ui->m_layout->addWidget(button);
+    }
+    connect(group(), &ButtonGroupEx::sigButtonClicked, this, &ProfileWid::slotKeyClicked);
+}
+
+ProfileWid::~ProfileWid() = default;
+
+void ProfileWid::slotKeyClicked(QAbstractButton *button)
+{
+    emit sigProfileChanged(recordOfClick(group(), button));
+}

@@ -1,21 +1,29 @@
 #pragma once
 
-#include "core/records.h"
+#include "panels/FunctionWid.h"
 
-#include <QWidget>
+#include <memory>
 
-class ProfileWid : public QWidget
+namespace Ui {
+class ProfileUi;
+}
+
+/// The panel of the profiles: the 24 profiles of the device, and the next and the previous one.
+class ProfileWid : public FunctionWid
 {
     Q_OBJECT
 
 public:
     explicit ProfileWid(QWidget *parent = nullptr);
-
-    void clearChecked();
-
-public slots:
-    void slotVantrixKeySelected(vantrix_key_mapping key);
+    ~ProfileWid() override;
 
 signals:
+    /// The user clicked an entry: `type` 0, `code` its device code, 255 when it was unchecked.
     void sigProfileChanged(vantrix_key_mapping key);
+
+private slots:
+    void slotKeyClicked(QAbstractButton *button);
+
+private:
+    std::unique_ptr<Ui::ProfileUi> m_ui;
 };

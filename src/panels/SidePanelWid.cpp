@@ -1,5 +1,45 @@
 #include "panels/SidePanelWid.h"
 
-SidePanelWid::SidePanelWid(QWidget *parent) : QWidget(parent) {}
+#include "core/records.h"
+#include "interfaces/ButtonGroupEx.h"
+#include "panels/PanelWid.h"
 
-void SidePanelWid::setCurrentPanel(int) {}
+#include "ui_SidePanelUi.h"
+
+namespace {
+
+int inputOfPreset(int keyboardType)
+{
+    if (keyboardType <= 2)
+        return InputType::Keyboard;
+    return keyboardType <= 5 ? InputType::GameController : InputType::Application;
+}
+
+} // namespace
+
+SidePanelWid::SidePanelWid(QWidget *parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::SidePanelUi>()), m_mains(new ButtonGroupEx(this)),
+      m_presets(new ButtonGroupEx(this))
+{
+    m_ui->setupUi(this);
+    for (const int mainNumber : {0, 4, 5})
+        m_ui->m_layout->addWidget(new PanelWid(mainNumber, m_mains, m_presets, this));
+    connect(m_presets, &QButtonGroup::idClicked, this, &SidePanelWid::slotPanelBtnClicked);
+}
+
+SidePanelWid::~SidePanelWid() = default;
+
+void SidePanelWid::setCurrentPanel(int keyboardType)
+{
+    m_presets->setButtonChecked(keyboardType, true);
+}
+
+void SidePanelWid::focusOutEvent(QFocusEvent *) {}
+
+void SidePanelWid::slotPanelBtnClicked(int keyboardType)
+{
+    // A second click has unchecked the entry; it applies the preset anew.
+    m_presets->setButtonChecked(keyboardType, true);
+    emit sigPanelChanged(inputOfPreset(keyboardType), keyboardType);
+    hide();
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+/// Sheet of an entry of the input selector and of the preset list: `checkedRule` is what stands
+/// between the braces of the rule for checked ones.
+QString selectorSheet(const QString &checkedRule = QStringLiteral("background:rgb(132,49,155)"));

@@ -7,7 +7,16 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-StoreKeeper::StoreKeeper(const QString &name) : m_name(name), m_lock(name + QStringLiteral(".lock"))
+namespace {
+
+QString lockSuffix()
+{
+    return QStringLiteral(".lock");
+}
+
+} // namespace
+
+StoreKeeper::StoreKeeper(const QString &name) : m_name(name), m_lock(name + lockSuffix())
 {
     // a lock never grows old: it ends with its process, which the lock file itself finds out
     m_lock.setStaleLockTime(0);
@@ -116,8 +125,17 @@ StoreError StoreKeeper::openNew(StoreContent *content)
     if (restoreBackup())
         say(tr("The store %1 was missing. The last good copy of it is used.")
                 .arg(shortName(m_name)));
-    else if (const StoreError error = StoreFile::create(m_name); error != StoreError::None)
-        return error;
+    return openFresh(content);
+}
+
+/// Opens what was just put in place, or an empty store when nothing was.
+StoreError StoreKeeper::openFresh(StoreContent *content)
+{
+    if (!QFile::exists(m_name)) {
+        const StoreError error = StoreFile::create(m_name);
+        if (error != StoreError::None)
+            return error;
+    }
     const StoreError error = m_file.open(m_name, StoreFile::ReadWrite);
     return error == StoreError::None ? openAndLoad(content) : error;
 }
@@ -149,7 +167,7 @@ StoreError StoreKeeper::openInsteadOf(StoreError error, StoreContent *content)
                (restored ? tr("The last good copy is used.")
                          : tr("There is no good copy of it, so everything starts empty."));
     say(reason.arg(shortName(m_name)) + QLatin1Char(' ') + outcome);
-    return aside.isEmpty() ? StoreError::ReadOnly : openNew(content);
+    return aside.isEmpty() ? StoreError::ReadOnly : openFresh(content);
 }
 
 StoreError StoreKeeper::openOlder(StoreContent *content)
@@ -207,6 +225,10 @@ bool StoreKeeper::checkPlace()
                 .arg(shortName(m_name)));
     }
     QDir().mkpath(QFileInfo(m_name).absolutePath());
+    if (!QFile::exists(m_name + lockSuffix())) {
+        m_lock.unlock();
+        lock();
+    }
     for (const QString &left : {QStringLiteral("-wal"), QStringLiteral("-shm")})
         QFile::remove(m_name + left);
     if (StoreFile::create(m_name) == StoreError::None &&

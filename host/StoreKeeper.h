@@ -52,6 +52,7 @@ private:
     bool takeOver(StoreContent *content);
     StoreError openAny(StoreContent *content);
     StoreError openNew(StoreContent *content);
+    StoreError openFresh(StoreContent *content);
     StoreError openOlder(StoreContent *content);
     StoreError openInsteadOf(StoreError error, StoreContent *content);
     StoreError openAndLoad(StoreContent *content);

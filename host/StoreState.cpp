@@ -157,7 +157,12 @@ QStringList StoreState::macroNames(int owner) const
     QStringList names;
     QDataStream stream(record(profileRecord(StoreTable::MacroOrder, owner)));
     stream.setVersion(StreamVersion);
-    stream >> names;
+    while (!stream.atEnd() && stream.status() == QDataStream::Ok) {
+        QString name;
+        stream >> name;
+        if (stream.status() == QDataStream::Ok)
+            names << name;
+    }
     return names;
 }
 
@@ -172,8 +177,11 @@ QByteArray StoreState::toBytes() const
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(StreamVersion);
-    for (const auto &[id, value] : m_records)
-        stream << quint8(id.table) << id.owner << id.profile << id.index << id.name << value;
+    for (const auto &[id, value] : m_records) {
+        // a null text and an empty one are equal names, but not equal bytes
+        const QString name = id.name.isEmpty() ? QString() : id.name;
+        stream << quint8(id.table) << id.owner << id.profile << id.index << name << value;
+    }
     return bytes;
 }
 
@@ -194,7 +202,9 @@ QByteArray names(const QStringList &names)
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(StreamVersion);
-    stream << names;
+    // no count in front: a broken one would make a reader reserve room for it
+    for (const QString &name : names)
+        stream << name;
     return bytes;
 }
 

@@ -1,0 +1,483 @@
+#include "StoreEdits.h"
+#include "support/TestMain.h"
+
+#include <QDir>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+
+#ifdef Q_OS_LINUX
+#include <sys/fsuid.h>
+#include <unistd.h>
+#endif
+
+/// Files that are not as they should be. Whatever happens, the store opens and says why.
+class tst_StoreRobust : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void notSqlite();
+    void emptyFile();
+    void truncated();
+    void brokenPages();
+    void anotherProgramsDatabase();
+    void newerVersion();
+    void brokenWithoutCopy();
+    void brokenTwice();
+    void brokenCopyToo();
+    void missingFile();
+    void missingFolder();
+    void readOnlyFolder();
+    void brokenInReadOnlyFolder();
+    void fullDisk();
+    void removedWhileRunning();
+    void replacedWhileRunning();
+    void folderRemovedWhileRunning();
+    void heldByAnotherProgram();
+    void secondStoreOnlyReads();
+    void copyIsMadeAtCleanClose();
+    void oddRows();
+    void memoryOnly();
+
+private:
+    static constexpr int Owner = StoreEdits::Owner;
+
+    QString file() const { return m_folder->filePath(QStringLiteral("my.store")); }
+    QStringList files() const { return QDir(m_folder->path()).entryList(QDir::Files, QDir::Name); }
+    void letOthersRead() const
+    {
+        QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7055));
+    }
+    static void assign(ProfileStore &store, int keyIdx, ushort code)
+    {
+        const vantrix_key_mapping key = plainKey(code);
+        store.setKeyMapping(Owner, 0, keyIdx, &key);
+    }
+    static int codeOf(const ProfileStore &store, int keyIdx)
+    {
+        return int(store.state().mapping(Owner, 0, keyIdx).code);
+    }
+    /// A store with key 1 on code 4 and a good copy of it.
+    void makeStore() const
+    {
+        ProfileStore store(file());
+        assign(store, 1, 4);
+    }
+    static QByteArray read(const QString &name)
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    static void write(const QString &name, const QByteArray &bytes)
+    {
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(bytes);
+    }
+    static void runSql(const QString &name, const QStringList &statements)
+    {
+        {
+            QSqlDatabase db =
+                QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("test"));
+            db.setDatabaseName(name);
+            QVERIFY(db.open());
+            for (const QString &statement : statements) {
+                QSqlQuery query(db);
+                QVERIFY2(query.exec(statement), qPrintable(statement));
+            }
+        }
+        QSqlDatabase::removeDatabase(QStringLiteral("test"));
+    }
+    /// Opens a store that is broken by those bytes and checks that nothing of it is lost.
+    void checkSetAside(const QByteArray &bytes) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+namespace {
+
+const char *const Damaged = "The store my.store is damaged and cannot be read. It was kept as "
+                            "my.store.broken-1. The last good copy is used.";
+
+/// What a person without rights on a folder may do, also when root runs the test.
+class OrdinaryUser
+{
+public:
+#ifdef Q_OS_LINUX
+    OrdinaryUser()
+    {
+        ::setfsuid(65534);
+    }
+    ~OrdinaryUser()
+    {
+        ::setfsuid(::geteuid());
+    }
+#endif
+    OrdinaryUser(const OrdinaryUser &) = delete;
+    OrdinaryUser &operator=(const OrdinaryUser &) = delete;
+};
+
+} // namespace
+
+void tst_StoreRobust::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+}
+
+void tst_StoreRobust::checkSetAside(const QByteArray &bytes) const
+{
+    write(file(), bytes);
+    const ProfileStore store(file());
+    QCOMPARE(store.messages(), QStringList(QString::fromLatin1(Damaged)));
+    QCOMPARE(read(file() + QStringLiteral(".broken-1")), bytes);
+    QCOMPARE(codeOf(store, 1), 4);
+    QVERIFY(store.isSaved());
+}
+
+void tst_StoreRobust::notSqlite()
+{
+    makeStore();
+    checkSetAside("This is a letter to a friend, and no store at all.\n");
+}
+
+void tst_StoreRobust::emptyFile()
+{
+    makeStore();
+    checkSetAside(QByteArray());
+}
+
+void tst_StoreRobust::truncated()
+{
+    makeStore();
+    const QByteArray whole = read(file());
+    QVERIFY(whole.size() > 8192);
+    checkSetAside(whole.left(whole.size() / 2));
+}
+
+void tst_StoreRobust::brokenPages()
+{
+    makeStore();
+    QByteArray bytes = read(file());
+    bytes.replace(4096, 4096, QByteArray(4096, '\x5a'));
+    checkSetAside(bytes);
+}
+
+void tst_StoreRobust::anotherProgramsDatabase()
+{
+    makeStore();
+    const QString other = m_folder->filePath(QStringLiteral("other"));
+    runSql(other, {QStringLiteral("CREATE TABLE addresses(name TEXT)")});
+    checkSetAside(read(other));
+}
+
+void tst_StoreRobust::newerVersion()
+{
+    makeStore();
+    QVERIFY(QFile::copy(file(), file() + QStringLiteral(".new")));
+    QVERIFY(QFile::remove(file()));
+    runSql(file() + QStringLiteral(".new"),
+           {QStringLiteral("PRAGMA user_version=99"), QStringLiteral("CREATE TABLE later(a)")});
+    QVERIFY(QFile::rename(file() + QStringLiteral(".new"), file()));
+    const QByteArray bytes = read(file());
+    const ProfileStore store(file());
+    QCOMPARE(store.messages(),
+             QStringList(QStringLiteral(
+                 "The store my.store was written by a newer version of this program. It was kept "
+                 "as my.store.newer-1. The last good copy is used.")));
+    QCOMPARE(read(file() + QStringLiteral(".newer-1")), bytes);
+    QCOMPARE(codeOf(store, 1), 4);
+}
+
+void tst_StoreRobust::brokenWithoutCopy()
+{
+    write(file(), "nonsense");
+    ProfileStore store(file());
+    QCOMPARE(store.messages(),
+             QStringList(QStringLiteral(
+                 "The store my.store is damaged and cannot be read. It was kept as "
+                 "my.store.broken-1. There is no good copy of it, so everything starts empty.")));
+    QCOMPARE(read(file() + QStringLiteral(".broken-1")), QByteArray("nonsense"));
+    assign(store, 2, 9);
+    QVERIFY(store.flush());
+}
+
+void tst_StoreRobust::brokenTwice()
+{
+    makeStore();
+    write(file(), "first");
+    {
+        const ProfileStore store(file());
+    }
+    write(file(), "second");
+    const ProfileStore store(file());
+    QCOMPARE(read(file() + QStringLiteral(".broken-1")), QByteArray("first"));
+    QCOMPARE(read(file() + QStringLiteral(".broken-2")), QByteArray("second"));
+    QCOMPARE(codeOf(store, 1), 4);
+}
+
+void tst_StoreRobust::brokenCopyToo()
+{
+    makeStore();
+    write(file(), "nonsense");
+    write(file() + QStringLiteral(".bak"), "nonsense");
+    const ProfileStore store(file());
+    QCOMPARE(store.messages().size(), 1);
+    QVERIFY(store.messages().at(0).endsWith(
+        QStringLiteral("There is no good copy of it, so everything starts empty.")));
+    QCOMPARE(codeOf(store, 1), 255);
+}
+
+void tst_StoreRobust::missingFile()
+{
+    makeStore();
+    QVERIFY(QFile::remove(file()));
+    const ProfileStore store(file());
+    QCOMPARE(store.messages(),
+             QStringList(QStringLiteral(
+                 "The store my.store was missing. The last good copy of it is used.")));
+    QCOMPARE(codeOf(store, 1), 4);
+}
+
+void tst_StoreRobust::missingFolder()
+{
+    const QString name = m_folder->filePath(QStringLiteral("a/b/my.store"));
+    {
+        ProfileStore store(name);
+        QCOMPARE(store.messages(), QStringList());
+        assign(store, 1, 4);
+    }
+    QCOMPARE(codeOf(ProfileStore(name), 1), 4);
+}
+
+void tst_StoreRobust::readOnlyFolder()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    letOthersRead();
+    std::unique_ptr<ProfileStore> store;
+    {
+        const OrdinaryUser user;
+        store = std::make_unique<ProfileStore>(file());
+        QCOMPARE(store->messages(),
+                 QStringList(QStringLiteral("The store my.store cannot be written. Changes are "
+                                            "kept in memory and saved as soon as possible.")));
+        QCOMPARE(codeOf(*store, 1), 4);
+        assign(*store, 2, 5);
+        QVERIFY(!store->flush());
+        QVERIFY(!store->isSaved());
+        QCOMPARE(store->messages().size(), 1);
+    }
+    QVERIFY(store->flush());
+    QVERIFY(store->isSaved());
+    QCOMPARE(store->messages().last(), QStringLiteral("All changes are saved again."));
+    store.reset();
+    const ProfileStore again(file());
+    QCOMPARE(codeOf(again, 1), 4);
+    QCOMPARE(codeOf(again, 2), 5);
+#else
+    QSKIP("needs a second user");
+#endif
+}
+
+void tst_StoreRobust::brokenInReadOnlyFolder()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    write(file(), "nonsense");
+    letOthersRead();
+    const OrdinaryUser user;
+    const ProfileStore store(file());
+    QCOMPARE(store.messages(),
+             QStringList({QStringLiteral("The store my.store is damaged and cannot be read. It was "
+                                         "left as it is. The last good copy is used."),
+                          QStringLiteral("The store my.store cannot be written. Changes are kept "
+                                         "in memory and saved as soon as possible.")}));
+    QCOMPARE(codeOf(store, 1), 4);
+    QCOMPARE(read(file()), QByteArray("nonsense"));
+#else
+    QSKIP("needs a second user");
+#endif
+}
+
+void tst_StoreRobust::fullDisk()
+{
+    makeStore();
+    ProfileStore store(file());
+    QSignalSpy told(&store, &ProfileStore::message);
+    QSignalSpy saved(&store, &ProfileStore::savedChanged);
+    store.setPageLimit(store.pageCount());
+    StoreEdits edits(store, 5);
+    while (store.flush()) {
+        edits.look();
+        edits.edit();
+    }
+    QVERIFY(!store.isSaved());
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(told.at(0).at(0).toString(),
+             QStringLiteral("There is no room on the disk for the store my.store. Changes are kept "
+                            "in memory and saved as soon as possible."));
+    assign(store, 3, 9);
+    QVERIFY(!store.flush());
+    QCOMPARE(told.count(), 1);
+    const int transactions = store.transactionCount();
+    store.setPageLimit(0);
+    // nobody has to do anything more for it
+    QTRY_VERIFY(store.isSaved());
+    QCOMPARE(store.transactionCount(), transactions + 1);
+    QCOMPARE(store.messages().last(), QStringLiteral("All changes are saved again."));
+    QCOMPARE(saved.count(), 2);
+    const ProfileStore reader(file());
+    QVERIFY(reader.state() == store.state());
+    QCOMPARE(reader.stepNames(), store.stepNames());
+}
+
+void tst_StoreRobust::removedWhileRunning()
+{
+    makeStore();
+    {
+        ProfileStore store(file());
+        QVERIFY(QFile::remove(file()));
+        assign(store, 2, 5);
+        QVERIFY(store.flush());
+        QCOMPARE(store.messages(),
+                 QStringList(QStringLiteral("The store my.store was removed while the program was "
+                                            "running. It was written again.")));
+    }
+    ProfileStore store(file());
+    QCOMPARE(store.messages(), QStringList());
+    QCOMPARE(codeOf(store, 1), 4);
+    QCOMPARE(codeOf(store, 2), 5);
+    QCOMPARE(store.stepNames().size(), 2);
+}
+
+void tst_StoreRobust::replacedWhileRunning()
+{
+    makeStore();
+    ProfileStore store(file());
+    write(m_folder->filePath(QStringLiteral("other")), "other");
+    QVERIFY(QFile::remove(file()));
+    QVERIFY(QFile::rename(m_folder->filePath(QStringLiteral("other")), file()));
+    assign(store, 2, 5);
+    QVERIFY(store.flush());
+    QCOMPARE(store.messages(),
+             QStringList(QStringLiteral(
+                 "The store my.store was replaced by another file while the program was running. "
+                 "That file was kept as my.store.replaced-1, and the store was written again.")));
+    QCOMPARE(read(file() + QStringLiteral(".replaced-1")), QByteArray("other"));
+    const ProfileStore reader(file());
+    QVERIFY(reader.state() == store.state());
+}
+
+void tst_StoreRobust::folderRemovedWhileRunning()
+{
+    const QString name = m_folder->filePath(QStringLiteral("a/my.store"));
+    ProfileStore store(name);
+    assign(store, 1, 4);
+    QVERIFY(store.flush());
+    QVERIFY(QDir(m_folder->filePath(QStringLiteral("a"))).removeRecursively());
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("our own lock file")));
+    assign(store, 2, 5);
+    QVERIFY(store.flush());
+    const ProfileStore reader(name);
+    QVERIFY(reader.state() == store.state());
+}
+
+void tst_StoreRobust::heldByAnotherProgram()
+{
+    makeStore();
+    ProfileStore store(file());
+    {
+        QSqlDatabase db =
+            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("holder"));
+        db.setDatabaseName(file());
+        QVERIFY(db.open());
+        QSqlQuery query(db);
+        QVERIFY(query.exec(QStringLiteral("BEGIN IMMEDIATE")));
+        assign(store, 2, 5);
+        QVERIFY(!store.flush());
+        QCOMPARE(store.messages(),
+                 QStringList(QStringLiteral("Another program is using the store my.store. Changes "
+                                            "are kept in memory and saved as soon as possible.")));
+        QVERIFY(query.exec(QStringLiteral("ROLLBACK")));
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("holder"));
+    QVERIFY(store.flush());
+    QCOMPARE(store.messages().last(), QStringLiteral("All changes are saved again."));
+}
+
+void tst_StoreRobust::secondStoreOnlyReads()
+{
+    makeStore();
+    ProfileStore first(file());
+    {
+        ProfileStore second(file());
+        QVERIFY(second.isReadOnly());
+        QCOMPARE(second.messages(),
+                 QStringList(QStringLiteral("Another window has the store my.store open. It is "
+                                            "shown here, but changes made here are not kept.")));
+        QCOMPARE(codeOf(second, 1), 4);
+        assign(second, 2, 5);
+        QVERIFY(second.flush());
+        QCOMPARE(codeOf(second, 2), 5);
+        QCOMPARE(second.transactionCount(), 0);
+    }
+    QVERIFY(!first.isReadOnly());
+    assign(first, 3, 6);
+    QVERIFY(first.flush());
+    const ProfileStore third(file());
+    QCOMPARE(codeOf(third, 2), 255);
+    QCOMPARE(codeOf(third, 3), 6);
+}
+
+void tst_StoreRobust::copyIsMadeAtCleanClose()
+{
+    makeStore();
+    QCOMPARE(files(), QStringList({QStringLiteral("my.store"), QStringLiteral("my.store.bak")}));
+    {
+        ProfileStore store(file());
+        assign(store, 2, 5);
+    }
+    QFile::remove(file());
+    QVERIFY(QFile::copy(file() + QStringLiteral(".bak"), file()));
+    QCOMPARE(codeOf(ProfileStore(file()), 2), 5);
+}
+
+void tst_StoreRobust::oddRows()
+{
+    makeStore();
+    runSql(file(),
+           {QStringLiteral("INSERT INTO record VALUES('mapping', 1, 0, 2, '', x'0102')"),
+            QStringLiteral("INSERT INTO record VALUES('mapping', 1, 0, 3, '', "
+                           "x'ffffffffffffffffffffff')"),
+            QStringLiteral("INSERT INTO record VALUES('unheard-of', 1, 0, 3, '', x'00')"),
+            QStringLiteral("INSERT INTO record VALUES('hotkey', 1, 0, 4, '', x'00ff')"),
+            QStringLiteral("INSERT INTO record VALUES('macroorder', 1, 0, 0, '', x'7fffffff')"),
+            QStringLiteral("INSERT INTO record VALUES('profileorder', 1, 0, 0, '', x'05ff0505')"),
+            QStringLiteral("INSERT INTO record VALUES('mode', 1, 0, 0, '', x'ff')")});
+    ProfileStore store(file());
+    QCOMPARE(codeOf(store, 2), 255);
+    QCOMPARE(codeOf(store, 3), 0xffff);
+    QCOMPARE(store.getMode(Owner, 0), 0);
+    std::map<uchar, vantrix_hotkey_assign> hotKeys;
+    QVERIFY(store.getHotKeyAssigns(Owner, 0, &hotKeys));
+    QVERIFY(hotKeys.empty());
+    const std::vector<int> order = store.state().profileOrder(Owner);
+    QCOMPARE(int(order.size()), 24);
+    QCOMPARE(order.at(0), 5);
+    QCOMPARE(order.at(1), 0);
+    QVERIFY(store.state().macroNames(Owner).isEmpty());
+}
+
+void tst_StoreRobust::memoryOnly()
+{
+    ProfileStore store{QString()};
+    assign(store, 1, 4);
+    QVERIFY(store.flush());
+    QCOMPARE(store.messages(), QStringList());
+    QVERIFY(store.isSaved());
+}
+
+VANTRIX_TEST_MAIN(tst_StoreRobust)
+#include "tst_StoreRobust.moc"

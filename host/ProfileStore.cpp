@@ -82,6 +82,8 @@ void ProfileStore::note(const RecordId &id)
     const Scope scope(id.owner, id.profile);
     switch (id.table) {
     case StoreTable::AppPath:
+        m_news.settings.insert(QStringLiteral("appPath"));
+        return;
     case StoreTable::Setting:
         m_news.settings.insert(id.name);
         return;

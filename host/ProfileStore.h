@@ -198,6 +198,7 @@ signals:
     /// Macros came, went, or changed.
     void macrosChanged(int owner);
     void pressoChanged();
+    /// A setting changed; "appPath" for the path of an application.
     void settingChanged(const QString &name);
     /// What the device has changed.
     void deviceChanged();

@@ -70,8 +70,10 @@ StoreError StoreMigration::migrate(const QString &name, const QString &target)
     const QString copy = target + QStringLiteral(".migrating");
     StoreFile::remove(copy);
     StoreFile source;
-    source.open(name, StoreFile::ReadOnlyAccess);
-    StoreError error = source.copyTo(copy);
+    StoreError error = source.open(name, StoreFile::ReadOnlyAccess);
+    if (error != StoreError::Older)
+        return error == StoreError::None ? StoreError::Failed : error;
+    error = source.copyTo(copy);
     source.close();
     if (error != StoreError::None)
         return error;

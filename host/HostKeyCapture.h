@@ -6,8 +6,8 @@
 #include <QWidget>
 
 /// The key capture service of the reference host. The capturing widget grabs the keyboard by
-/// itself; this service knows who captures, and asks the window system, where it can, to leave
-/// system hot keys alone meanwhile. Interface thread.
+/// itself, which is all that X11 and Wayland grant a program; this service knows who captures, so
+/// that a shell can keep its own shortcuts out of the way. Interface thread.
 class HostKeyCapture final : public ISystemHotKey
 {
 public:

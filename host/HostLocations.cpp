@@ -20,7 +20,7 @@ QString findShareFolder()
 {
     const QDir program(QCoreApplication::applicationDirPath());
     for (const char *place : SharePlaces) {
-        const QString folder = QDir::cleanPath(program.filePath(QLatin1String(place)));
+        QString folder = QDir::cleanPath(program.filePath(QLatin1String(place)));
         if (QFileInfo(folder + CfgFile::hotkeysFolder()).isDir())
             return folder;
     }

@@ -23,7 +23,7 @@ QString oneLine(QString text)
 QString KeyText::codeName(ushort code)
 {
     const int scan = scanOfKeyCode(code);
-    const QString legend = scan ? oneLine(keyLegend(scan, language())) : QString();
+    QString legend = scan ? oneLine(keyLegend(scan, language())) : QString();
     if (!legend.isEmpty())
         return legend;
     const QString name = oneLine(tr(keyFunctionName(code)));
@@ -32,7 +32,7 @@ QString KeyText::codeName(ushort code)
 
 QString KeyText::dualName(const vantrix_presso_digital &digital)
 {
-    const QString first = codeName(digital.firstAction);
+    QString first = codeName(digital.firstAction);
     if (ushort(digital.secondAction) == 0)
         return first;
     const QString second = codeName(digital.secondAction);
@@ -63,7 +63,7 @@ QString KeyText::extraName(const KeyContent &key)
 
 QString KeyText::functionName(int keyIdx, const KeyContent &key)
 {
-    const QString extra = extraName(key);
+    QString extra = extraName(key);
     if (!extra.isEmpty())
         return extra;
     if (isDualAction(key.mapping))

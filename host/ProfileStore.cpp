@@ -3,7 +3,6 @@
 #include "host/StepName.h"
 #include "host/StoreKeeper.h"
 
-#include <QMutexLocker>
 #include <QThread>
 
 /// Marks what is changed meanwhile as changed by the host, not by the page.
@@ -359,14 +358,14 @@ int ProfileStore::pageCount() const
 
 void ProfileStore::getAppPath(int appType, QString &path)
 {
-    const QMutexLocker lock(&m_pathMutex);
+    const std::lock_guard lock(m_pathMutex);
     const auto found = m_paths.find(appType);
     path = found == m_paths.end() ? QString() : found->second;
 }
 
 void ProfileStore::setAppPath(int appType, const QString &path)
 {
-    const QMutexLocker lock(&m_pathMutex);
+    const std::lock_guard lock(m_pathMutex);
     QString &stored = m_paths[appType];
     if (stored == path)
         return;
@@ -385,7 +384,7 @@ void ProfileStore::takeOverPaths()
 {
     std::map<int, QString> paths;
     {
-        const QMutexLocker lock(&m_pathMutex);
+        const std::lock_guard lock(m_pathMutex);
         paths = m_paths;
     }
     for (const auto &[appType, path] : paths)

@@ -4,11 +4,11 @@
 #include "host/StoreState.h"
 #include "interfaces/IVantrixProfileCfg.h"
 
-#include <QMutex>
 #include <QObject>
 #include <QTimer>
 
 #include <memory>
+#include <mutex>
 #include <set>
 
 class StoreKeeper;
@@ -253,7 +253,7 @@ private:
     News m_news;
     QStringList m_messages;
     QTimer m_retry;
-    QMutex m_pathMutex;
+    std::mutex m_pathMutex;
     std::map<int, QString> m_paths;
     QString m_stepName;
     int m_stepDepth = 0;

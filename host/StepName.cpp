@@ -28,6 +28,7 @@ std::vector<RecordId> keysOf(const ChangeSet &changes)
         keys[id] = true;
     }
     std::vector<RecordId> result;
+    result.reserve(keys.size());
     for (const auto &row : keys)
         result.push_back(row.first);
     return result;

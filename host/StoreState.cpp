@@ -131,7 +131,7 @@ ProfileKeys StoreState::keys(int owner, int profile) const
 
 QString StoreState::profileName(int owner, int profile) const
 {
-    const QString name = text(profileRecord(StoreTable::ProfileName, owner, profile));
+    QString name = text(profileRecord(StoreTable::ProfileName, owner, profile));
     if (!name.isEmpty())
         return name;
     return QCoreApplication::translate("ProfileStore", "PROFILE %1").arg(profile + 1);

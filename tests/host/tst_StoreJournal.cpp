@@ -6,6 +6,8 @@
 #include <QEventLoop>
 #include <QTemporaryDir>
 
+#include <thread>
+
 /// How changes become transactions.
 class tst_StoreJournal : public QObject
 {
@@ -200,20 +202,19 @@ void tst_StoreJournal::pathsFromOtherThreads()
     const QString name = folder.filePath(QStringLiteral("store"));
     {
         ProfileStore store(name);
-        std::vector<std::unique_ptr<QThread>> threads;
+        std::vector<std::thread> threads;
         for (int type = 0; type < 3; ++type) {
-            threads.emplace_back(QThread::create([&store, type] {
+            threads.emplace_back([&store, type] {
                 for (int i = 0; i < 200; ++i) {
                     store.setAppPath(type, QStringLiteral("/app%1/%2").arg(type).arg(i));
                     QString path;
                     store.getAppPath(type, path);
                     store.hasAppPath((type + 1) % 3);
                 }
-            }));
-            threads.back()->start();
+            });
         }
-        for (const auto &thread : threads)
-            thread->wait();
+        for (std::thread &thread : threads)
+            thread.join();
         QString path;
         store.getAppPath(2, path);
         QCOMPARE(path, QStringLiteral("/app2/199"));

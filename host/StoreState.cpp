@@ -221,7 +221,13 @@ QByteArray hotKey(const vantrix_hotkey_assign &assign)
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(StreamVersion);
-    stream << assign.flag << assign.hotKey << assign.keyName;
+    // a null text and an empty one are the same here, so they must be the same bytes
+    const auto write = [&stream](const QString &text) {
+        stream << (text.isEmpty() ? QString() : text);
+    };
+    stream << assign.flag;
+    write(assign.hotKey);
+    write(assign.keyName);
     return bytes;
 }
 

@@ -10,12 +10,28 @@
 #include <QButtonGroup>
 #include <QPushButton>
 
+namespace {
+
+class InputBtn : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+    QSize minimumSizeHint() const override
+    {
+        // A page at its first size has less room than the longest text takes with its padding.
+        return {1, QPushButton::minimumSizeHint().height()};
+    }
+};
+
+} // namespace
+
 InputWid::InputWid(QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::InputUi>()), m_group(new QButtonGroup(this))
 {
     m_ui->setupUi(this);
     for (int input = InputType::Keyboard; input <= InputType::PresetMode; ++input) {
-        auto *const button = new QPushButton(tr(inputTypeName(input)), m_ui->widget);
+        auto *const button = new InputBtn(tr(inputTypeName(input)), m_ui->widget);
         button->setCheckable(true);
         button->setStyleSheet(selectorSheet());
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

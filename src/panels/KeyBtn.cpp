@@ -1,10 +1,9 @@
 #include "panels/KeyBtn.h"
 
+#include "panels/NarrowText.h"
 #include "vocabulary/KeyCodes.h"
 
 #include <QKeyEvent>
-
-#include <algorithm>
 
 namespace {
 
@@ -18,16 +17,7 @@ const QString &sheet()
     return text;
 }
 
-constexpr int MeasuredSize = 100;
 constexpr int Borders = 2;
-constexpr int NarrowestStretch = 50;
-
-int widthOf(const QString &legend, QFont font)
-{
-    font.setPixelSize(MeasuredSize);
-    font.setStretch(QFont::Unstretched);
-    return QFontMetrics(font).size(Qt::TextShowMnemonic, legend).width();
-}
 
 } // namespace
 
@@ -37,20 +27,9 @@ KeyBtn::KeyBtn(QWidget *parent) : FixedBtn(parent)
     setStyleSheet(sheet());
 }
 
-void KeyBtn::fitLegend(int pixelSize)
+void KeyBtn::fitLegend()
 {
-    if (m_measured != text()) {
-        m_measured = text();
-        m_legendWidth = widthOf(m_measured, font());
-    }
-    const int needed = std::max(1, m_legendWidth * pixelSize);
-    const int room = (width() - Borders) * MeasuredSize;
-    const int stretch = std::clamp(100 * room / needed, NarrowestStretch, 100);
-    QFont narrowed = font();
-    if (narrowed.stretch() == stretch || (narrowed.stretch() == 0 && stretch == 100))
-        return;
-    narrowed.setStretch(stretch);
-    setFont(narrowed);
+    narrowText(this, text(), width() - Borders);
 }
 
 void KeyBtn::keyReleaseEvent(QKeyEvent *event)

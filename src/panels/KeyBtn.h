@@ -11,15 +11,10 @@ public:
     explicit KeyBtn(QWidget *parent);
 
     /// Draws the legend as narrow as it takes to find room in the key's present width.
-    /// `pixelSize` is the size of the font that the key has from the sheet around it.
-    void fitLegend(int pixelSize);
+    void fitLegend();
 
 protected:
     /// Takes every release, so that keys typed while the button has the focus don't reach the
     /// keyboard around it, which would take them for keys to assign.
     void keyReleaseEvent(QKeyEvent *event) override;
-
-private:
-    QString m_measured;    ///< the legend that m_legendWidth belongs to
-    int m_legendWidth = 0; ///< of its widest line at MeasuredSize pixels
 };

@@ -114,7 +114,7 @@ int unitOfHeight(int height)
 
 int fontSizeOfUnit(int unit)
 {
-    return unit / 3;
+    return std::max(1, unit / 3);
 }
 
 /// F1, F5 and F9 stand apart from the key before them.
@@ -413,6 +413,7 @@ void Keyboard::resizeEvent(QResizeEvent *)
     m_unit = unit;
     setStyleSheet(QStringLiteral("font-size:%1px;}").arg(fontSizeOfUnit(unit)));
     fitKeys(unit);
+    layout()->activate();
 }
 
 void Keyboard::fitKeys(int unit)
@@ -420,7 +421,7 @@ void Keyboard::fitKeys(int unit)
     for (const auto &[scanCode, key] : m_keys) {
         const QSize size = sizeOfKey(scanCode, m_layout, unit);
         key->fixSize(size.width(), size.height());
-        key->fitLegend(fontSizeOfUnit(unit));
+        key->fitLegend();
     }
     m_navigationFiller->fixSize(unit, unit);
     m_keypadFiller->fixSize(unit, unit);
@@ -444,6 +445,11 @@ int Keyboard::widthOfUnit(int unit) const
     const int keypad = twoColumns + 2 * unit + 2 * KeySpacing;
     const QMargins margins = layout()->contentsMargins();
     return margins.left() + mainWidth + navigation + keypad + 2 * BlockSpacing + margins.right();
+}
+
+int Keyboard::widthAtHeight(int height) const
+{
+    return widthOfUnit(unitOfHeight(height));
 }
 
 int Keyboard::heightThatFits(int width) const

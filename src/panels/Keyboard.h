@@ -18,8 +18,7 @@ class QKeyEvent;
 /// of one language. A button is named `btn_` and the Windows scan code of its key, with 256 added
 /// for extended keys, which is also its id in the group.
 ///
-/// All sizes follow from the height: a plain key is a square of 14/111 of it. The width that
-/// this takes is the size hint's.
+/// All sizes follow from the height: a plain key is a square of 14/111 of it.
 class Keyboard : public QWidget
 {
     Q_OBJECT
@@ -37,6 +36,8 @@ public:
     /// The grab pauses while something modal runs, while the keyboard is hidden and while another
     /// application is the active one.
     void setKeyCapture(bool on);
+    /// The width that the keys take at a height, without any room to spare.
+    int widthAtHeight(int height) const;
     /// The largest height at which the keys find room in `width`.
     int heightThatFits(int width) const;
 

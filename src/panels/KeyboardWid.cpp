@@ -6,6 +6,8 @@
 
 #include "ui_KeyboardUi.h"
 
+#include <algorithm>
+
 KeyboardWid::KeyboardWid(QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::KeyboardUi>())
 {
@@ -34,11 +36,19 @@ void KeyboardWid::slotVantrixKeySelected(vantrix_key_mapping key)
         m_keyboard->selectKeyCode(key.code);
 }
 
+QSize KeyboardWid::minimumSizeHint() const
+{
+    // The keyboard's size follows from the panel's, so it must not keep the panel from shrinking.
+    return {1, 1};
+}
+
 void KeyboardWid::resizeEvent(QResizeEvent *)
 {
+    const QSize room = contentsRect().marginsRemoved(layout()->contentsMargins()).size();
     // The width of the keys follows from the height, and a panel may be too narrow for it.
-    const QMargins outer = layout()->contentsMargins();
-    m_keyboard->setMaximumHeight(
-        m_keyboard->heightThatFits(width() - outer.left() - outer.right()));
+    const int height = std::clamp(room.height(), 0, m_keyboard->heightThatFits(room.width()));
+    const int width = m_keyboard->widthAtHeight(height);
+    m_keyboard->setFixedSize(width, height);
+    m_ui->widget->setFixedWidth(width);
     layout()->activate();
 }

@@ -27,6 +27,8 @@ public:
     /// Takes every key of the real keyboard, or lets go.
     void setKeyCapture(bool on);
 
+    QSize minimumSizeHint() const override;
+
 public slots:
     /// Shows what a pad key does; only a record of `type` 0 changes anything. Emits nothing.
     void slotVantrixKeySelected(vantrix_key_mapping key);

@@ -3,6 +3,7 @@
 #include "panels/FixedBtn.h"
 
 class QHBoxLayout;
+class QLabel;
 
 /// An entry of the preset list: a tag of one or two letters on black, and a name.
 class PanelBtn : public FixedBtn
@@ -19,11 +20,13 @@ public:
     PanelBtn(const QString &tag, const QString &name, Offset offset, QWidget *parent);
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     QHBoxLayout *m_row;
+    QLabel *m_name;
     Offset m_offset;
 };

@@ -2,6 +2,7 @@
 
 #include "interfaces/ButtonGroupEx.h"
 #include "panels/FixedBtn.h"
+#include "panels/NarrowText.h"
 #include "panels/PanelRecords.h"
 #include "vocabulary/KeyCodes.h"
 
@@ -12,10 +13,10 @@ namespace {
 class PressoKey : public FixedBtn
 {
 public:
-    PressoKey(const QString &text, QWidget *parent) : FixedBtn(parent)
+    PressoKey(const QString &name, QWidget *parent) : FixedBtn(parent)
     {
-        setText(text);
-        setToolTip(text);
+        setText(name);
+        setToolTip(name);
         setStyleSheet(QStringLiteral("QPushButton{background:transparent;border:1px solid white;"
                                      "min-height:30px;font-size:11px;}"
                                      ":hover{background:rgba(255,255,255,50);}"
@@ -23,6 +24,7 @@ public:
                       inputColor(InputType::PressoFunctions).name(QColor::HexArgb) +
                       QStringLiteral(";border:none;}"));
         fixSize(50, 30);
+        narrowText(this, name, width() - 4);
     }
 };
 

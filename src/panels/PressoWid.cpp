@@ -5,6 +5,8 @@
 #include <QButtonGroup>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 PressoWid::PressoWid(QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::PressoUi>()), m_group(new QButtonGroup(this))
 {
@@ -24,6 +26,11 @@ void PressoWid::setPressoEnable(bool bEnable)
 
 void PressoWid::resizeEvent(QResizeEvent *)
 {
-    m_ui->m_on->fixSize(-1, height() / 5);
-    m_ui->m_off->fixSize(-1, height() / 5);
+    const int height = this->height() / 5;
+    QFont text = font();
+    text.setPixelSize(std::clamp(height - 3, 1, 12));
+    for (FixedBtn *const button : {m_ui->m_on, m_ui->m_off}) {
+        button->setFont(text);
+        button->fixSize(-1, height);
+    }
 }

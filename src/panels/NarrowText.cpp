@@ -9,6 +9,11 @@ namespace {
 
 constexpr int NarrowestStretch = 50;
 
+int widthOf(const QString &text, const QFont &font)
+{
+    return QFontMetrics(font).size(Qt::TextShowMnemonic, text).width();
+}
+
 } // namespace
 
 void narrowText(QWidget *widget, const QString &text, int room)
@@ -17,10 +22,11 @@ void narrowText(QWidget *widget, const QString &text, int room)
     QFont font = widget->font();
     const int present = font.stretch() == QFont::AnyStretch ? 100 : font.stretch();
     font.setStretch(QFont::Unstretched);
-    const int needed = QFontMetrics(font).size(Qt::TextShowMnemonic, text).width();
-    const int stretch = std::clamp(100 * room / std::max(1, needed), NarrowestStretch, 100);
-    if (stretch == present)
-        return;
-    font.setStretch(stretch);
-    widget->setFont(font);
+    const int needed = std::max(1, widthOf(text, font));
+    font.setStretch(std::clamp(100 * room / needed, NarrowestStretch, 100));
+    // Hinting makes narrow letters somewhat wider than their share.
+    while (font.stretch() > NarrowestStretch && widthOf(text, font) > room)
+        font.setStretch(font.stretch() - 1);
+    if (font.stretch() != present)
+        widget->setFont(font);
 }

@@ -2,16 +2,19 @@
 
 #include "interfaces/ButtonGroupEx.h"
 #include "panels/PanelRecords.h"
+#include "panels/PanelStyle.h"
 #include "vocabulary/KeyCodes.h"
 
 #include "ui_ProfileUi.h"
 
 #include <QPushButton>
+#include <QScrollBar>
 
 ProfileWid::ProfileWid(QWidget *parent)
     : FunctionWid(parent), m_ui(std::make_unique<Ui::ProfileUi>())
 {
     m_ui->setupUi(this);
+    m_ui->scrollArea->verticalScrollBar()->setStyleSheet(scrollBarSheet());
     for (const ushort code : InputKeyLists().at(InputType::Profile)) {
         auto *const button =
             new QPushButton(tr(keyFunctionName(code)), m_ui->scrollAreaWidgetContents_2);

@@ -22,3 +22,9 @@ if(VANTRIX_SANITIZE)
     add_compile_options(-fsanitize=${VANTRIX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${VANTRIX_SANITIZE})
 endif()
+
+# Fuzz targets need to see which way their input takes through the libraries.
+if(VANTRIX_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+    add_link_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -122,7 +122,12 @@ QString ExchangeReader::text(const Place &place)
 {
     if (!place.value.isString())
         fail(place.path, tr("%1 is not a text").arg(kindOf(place.value)));
-    return place.value.toString();
+    const QString text = place.value.toString();
+    const QByteArray stored = text.toUtf8();
+    // half of a surrogate pair is no character, and a NUL ends a text for too many readers
+    if (stored.contains('\0') || QString::fromUtf8(stored) != text)
+        fail(place.path, tr("the text holds a character that cannot be stored"));
+    return text;
 }
 
 ExchangeContent ExchangeReader::read(const QByteArray &json)

@@ -189,7 +189,7 @@ ExchangeReport ProfileExchange::put(const ExchangeContent &content, ProfileStore
             if (key.macroName && newNames.count(*key.macroName) > 0)
                 key.macroName = newNames.at(*key.macroName);
             if (key.app)
-                applications.insert(key.app->appType);
+                applications.insert(int(key.app->appType));
         }
         store.setProfileKeys(owner, profile.profile, keys);
         store.setProfileName(owner, profile.profile, profile.name);

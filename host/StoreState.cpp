@@ -67,7 +67,8 @@ int StoreState::number(const RecordId &id) const
 
 QString StoreState::text(const RecordId &id) const
 {
-    return QString::fromUtf8(record(id));
+    const QByteArray bytes = record(id);
+    return QString::fromUtf8(bytes.constData(), bytes.size());
 }
 
 vantrix_key_mapping StoreState::mapping(int owner, int profile, int keyIdx) const

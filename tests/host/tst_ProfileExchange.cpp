@@ -298,6 +298,8 @@ void tst_ProfileExchange::brokenFiles_data()
     QTest::newRow("profile twice")       << withProfiles("[{\"profile\": 2, \"keys\": []}, {\"profile\": 2, \"keys\": []}]") << "my.json, profiles[1].profile: profile 2 is here twice";
     QTest::newRow("25 profiles")         << withProfiles("[" + profiles.join(",") + "]") << "my.json, profiles: 25 elements are more than 24";
     QTest::newRow("name a number")       << withProfiles("[{\"profile\": 1, \"name\": 5, \"keys\": []}]") << "my.json, profiles[0].name: 5 is not a text";
+    QTest::newRow("name half a character") << withProfiles("[{\"profile\": 1, \"name\": \"\\ud800\", \"keys\": []}]") << "my.json, profiles[0].name: the text holds a character that cannot be stored";
+    QTest::newRow("name with a NUL")     << withProfiles("[{\"profile\": 1, \"name\": \"a\\u0000b\", \"keys\": []}]") << "my.json, profiles[0].name: the text holds a character that cannot be stored";
     QTest::newRow("no keys")             << withProfiles("[{\"profile\": 1}]") << "my.json, profiles[0].keys: nothing is not a list";
     QTest::newRow("29 keys")             << withKey(keys.join(",")) << "my.json, profiles[0].keys: 29 elements are more than 28";
     QTest::newRow("key a text")          << withKey("\"B\"") << "my.json, profiles[0].keys[0]: \"B\" is not an object";

@@ -505,6 +505,8 @@ void tst_ProfileStore::macroNames()
     QCOMPARE(m_store->freeMacroName(Owner, QStringLiteral("A")), QStringLiteral("A 2"));
     QVERIFY(m_store->addMacro(Owner, QStringLiteral("A 2"), vantrix_macro_record()));
     QCOMPARE(m_store->freeMacroName(Owner, QStringLiteral("A")), QStringLiteral("A 3"));
+    m_store->setNamedMacroKey(Owner, Profile, std::string("a\0b", 3), 1);
+    QCOMPARE(m_store->state().macroKey(Owner, Profile, 1)->size(), 3);
 }
 
 void tst_ProfileStore::settings()

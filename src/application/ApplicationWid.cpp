@@ -1,5 +1,40 @@
 #include "application/ApplicationWid.h"
 
-ApplicationWid::ApplicationWid(QWidget *parent) : QWidget(parent) {}
+#include "application/ApplicationBtn.h"
+#include "interfaces/ButtonGroupEx.h"
+#include "panels/PanelStyle.h"
 
-void ApplicationWid::resetPanel() {}
+#include "ui_ApplicationUi.h"
+
+#include <QPushButton>
+#include <QScrollBar>
+
+ApplicationWid::ApplicationWid(QWidget *parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::ApplicationUi>()), m_group(new ButtonGroupEx(this))
+{
+    m_ui->setupUi(this);
+    m_ui->scrollArea->verticalScrollBar()->setStyleSheet(scrollBarSheet());
+    for (int appType = 0; appType <= 2; ++appType)
+        addSection(appType);
+}
+
+ApplicationWid::~ApplicationWid() = default;
+
+void ApplicationWid::addSection(int appType)
+{
+    auto *const section = new ApplicationBtn(appType, this);
+    connect(section, &ApplicationBtn::sigApplicationAssigned, this,
+            &ApplicationWid::sigApplicationAssigned);
+    connect(this, &ApplicationWid::sigApplicationSelected, section,
+            &ApplicationBtn::slotApplicationSelected);
+    connect(this, &ApplicationWid::sigVantrixKeySelected, section,
+            &ApplicationBtn::slotVantrixKeySelected);
+    m_ui->m_layout->addWidget(section);
+    m_group->addButton(section->typeButton());
+}
+
+void ApplicationWid::resetPanel()
+{
+    m_group->setNoneButtonChecked();
+    emit sigVantrixKeySelected();
+}

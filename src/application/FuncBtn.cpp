@@ -1,0 +1,6 @@
+#include "application/FuncBtn.h"
+
+FuncBtn::FuncBtn(QWidget *parent) : QPushButton(parent)
+{
+    setCheckable(true);
+}

@@ -14,6 +14,8 @@ ApplicationWid::ApplicationWid(QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->scrollArea->verticalScrollBar()->setStyleSheet(scrollBarSheet());
+    // Closed headers stand on top of each other; an open list still takes what is left.
+    m_ui->m_layout->setAlignment(Qt::AlignTop);
     for (int appType = 0; appType <= 2; ++appType)
         addSection(appType);
 }

@@ -6,7 +6,7 @@
 #include "application/FuncBtn.h"
 #include "interfaces/ButtonGroupEx.h"
 #include "interfaces/Modal.h"
-#include "panels/PanelStyle.h"
+#include "toolkit/PanelStyle.h"
 #include "vocabulary/AppTables.h"
 
 #include "ui_ApplicationBtn.h"

@@ -2,7 +2,7 @@
 
 #include "application/ApplicationBtn.h"
 #include "interfaces/ButtonGroupEx.h"
-#include "panels/PanelStyle.h"
+#include "toolkit/PanelStyle.h"
 
 #include "ui_ApplicationUi.h"
 

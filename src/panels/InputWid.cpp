@@ -2,7 +2,7 @@
 
 #include "core/records.h"
 #include "interfaces/IVantrixProfileCfg.h"
-#include "panels/PanelStyle.h"
+#include "toolkit/PanelStyle.h"
 #include "vocabulary/KeyCodes.h"
 
 #include "ui_InputUi.h"

@@ -1,6 +1,6 @@
 #include "panels/KeyBtn.h"
 
-#include "panels/NarrowText.h"
+#include "toolkit/NarrowText.h"
 #include "vocabulary/KeyCodes.h"
 
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #include "panels/PanelBtn.h"
 
-#include "panels/NarrowText.h"
-#include "panels/PanelStyle.h"
+#include "toolkit/NarrowText.h"
+#include "toolkit/PanelStyle.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

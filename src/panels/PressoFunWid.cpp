@@ -2,8 +2,8 @@
 
 #include "interfaces/ButtonGroupEx.h"
 #include "panels/FixedBtn.h"
-#include "panels/NarrowText.h"
 #include "panels/PanelRecords.h"
+#include "toolkit/NarrowText.h"
 #include "vocabulary/KeyCodes.h"
 
 #include "ui_PressoFunUi.h"

@@ -2,7 +2,7 @@
 
 #include "interfaces/ButtonGroupEx.h"
 #include "panels/PanelRecords.h"
-#include "panels/PanelStyle.h"
+#include "toolkit/PanelStyle.h"
 #include "vocabulary/KeyCodes.h"
 
 #include "ui_ProfileUi.h"

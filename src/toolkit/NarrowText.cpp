@@ -1,4 +1,4 @@
-#include "panels/NarrowText.h"
+#include "toolkit/NarrowText.h"
 
 #include <QFontMetrics>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "panels/PanelStyle.h"
+#include "toolkit/PanelStyle.h"
 
 QString selectorSheet(const QString &checkedRule)
 {

@@ -2,11 +2,12 @@
 
 #include "interfaces/VantrixExport.h"
 
+#include <QPointer>
 #include <QPushButton>
 
 class OstraMenu;
 
-/// One entry of an OstraMenu.
+/// One entry of an OstraMenu. It deletes the menu that it opens.
 class VANTRIX_EXPORT OstraAction : public QPushButton
 {
     Q_OBJECT
@@ -15,13 +16,24 @@ public:
     /// `side` is 1 when its menu opens to the right, 0 when it opens to the left; `id` is what the
     /// menu reports when the entry is chosen, 0 for an entry with a menu of its own.
     OstraAction(int side, ushort id, const QString &text, QWidget *parent = nullptr);
+    ~OstraAction() override;
 
     ushort id() const { return m_id; }
-    /// The menu that the entry opens.
+    /// The menu that the entry opens, null for none. The entry takes it over.
     void setOstraMenu(OstraMenu *menu);
+    OstraMenu *ostraMenu() const { return m_menu; }
+    /// Opens the entry's menu beside it.
+    void openMenu();
+
+protected:
+    void enterEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    OstraMenu *owner() const;
+    void choose();
+
     int m_side;
     ushort m_id;
-    OstraMenu *m_menu = nullptr;
+    QPointer<OstraMenu> m_menu;
 };

@@ -1,0 +1,80 @@
+#include "dualaction/ActionAssignWid.h"
+
+#include "interfaces/Modal.h"
+#include "ui_ActionAssignUi.h"
+
+ActionAssignWid::ActionAssignWid(QWidget *parent) : QWidget(parent), m_ui(new Ui::ActionAssignUi)
+{
+    m_ui->setupUi(this);
+    connect(m_ui->m_keyboard, &KeyboardWid::sigKeyChanged, this,
+            &ActionAssignWid::slotDualActionChanged);
+    connect(m_ui->m_mouse, &MouseWid::sigMouseChanged, this,
+            &ActionAssignWid::slotDualActionChanged);
+    connect(m_ui->m_media, &MediaWid::sigMediaChanged, this,
+            &ActionAssignWid::slotDualActionChanged);
+    connect(m_ui->m_back, &QPushButton::clicked, this, &ActionAssignWid::slotBack);
+    connect(m_ui->m_apply, &QPushButton::clicked, this, &ActionAssignWid::slotApply);
+    connect(Modal::instance(), &Modal::opening, this, [this] {
+        if (m_capturing)
+            m_ui->m_keyboard->setKeyCapture(false);
+    });
+    connect(Modal::instance(), &Modal::closed, this, [this] {
+        if (m_capturing)
+            m_ui->m_keyboard->setKeyCapture(true);
+    });
+}
+
+ActionAssignWid::~ActionAssignWid()
+{
+    setKeyCapture(false);
+}
+
+void ActionAssignWid::openOverlay(int actionNo, int inputType, QString strAction)
+{
+    m_actionNo = actionNo;
+    m_ui->m_action->setText(strAction);
+    m_ui->m_map->setCurrentIndex(inputType);
+    show();
+    raise();
+    setKeyCapture(inputType == InputType::Keyboard);
+}
+
+void ActionAssignWid::resetOverlay()
+{
+    m_ui->m_keyboard->clearChecked();
+    m_ui->m_mouse->clearChecked();
+    m_ui->m_media->clearChecked();
+}
+
+void ActionAssignWid::closeOverlay()
+{
+    setKeyCapture(false);
+    hide();
+}
+
+void ActionAssignWid::slotDualActionChanged(vantrix_key_mapping key)
+{
+    emit sigDualActionChanged(m_actionNo, key);
+}
+
+void ActionAssignWid::slotBack()
+{
+    setKeyCapture(false);
+    emit sigDualActionBack();
+    hide();
+}
+
+void ActionAssignWid::slotApply()
+{
+    setKeyCapture(false);
+    emit sigDualActionApply();
+    hide();
+}
+
+void ActionAssignWid::setKeyCapture(bool on)
+{
+    if (m_capturing == on)
+        return;
+    m_capturing = on;
+    m_ui->m_keyboard->setKeyCapture(on);
+}

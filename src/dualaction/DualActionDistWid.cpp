@@ -1,0 +1,40 @@
+#include "dualaction/DualActionDistWid.h"
+
+#include "ui_DualActionDistUi.h"
+
+#include <QSignalBlocker>
+
+DualActionDistWid::DualActionDistWid(QWidget *parent)
+    : QWidget(parent), m_ui(new Ui::DualActionDistUi)
+{
+    m_ui->setupUi(this);
+    connect(m_ui->m_distanceSlider, &QSlider::valueChanged, this,
+            &DualActionDistWid::slotDistanceChanged);
+}
+
+DualActionDistWid::~DualActionDistWid() = default;
+
+void DualActionDistWid::setDistance(int percent)
+{
+    QSlider *const slider = m_ui->m_distanceSlider;
+    const int shown = qBound(slider->minimum(), percent, slider->maximum());
+    showDistance(shown);
+    const QSignalBlocker blocker(slider);
+    slider->setValue(shown);
+}
+
+int DualActionDistWid::distance() const
+{
+    return m_ui->m_distanceSlider->value();
+}
+
+void DualActionDistWid::slotDistanceChanged(int iVal)
+{
+    showDistance(iVal);
+    emit sigDualActionDepthChanged(iVal);
+}
+
+void DualActionDistWid::showDistance(int percent)
+{
+    m_ui->m_distanceLab->setText(QString::number(percent) + QLatin1Char('%'));
+}

@@ -41,7 +41,7 @@ if(VANTRIX_HOST)
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VantrixMap FILES_MATCHING PATTERN "*.h")
 endif()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/share/hotkeys
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/vantrixmap OPTIONAL)
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/vantrixmap)
 
 configure_package_config_file(cmake/VantrixMapConfig.cmake.in
     ${PROJECT_BINARY_DIR}/VantrixMapConfig.cmake INSTALL_DESTINATION ${VANTRIX_CMAKE_DIR})

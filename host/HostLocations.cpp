@@ -12,20 +12,9 @@
 namespace {
 
 /// Folders that may hold what comes with the program, seen from the program's own: installed in
-/// bin/, beside it, and in a build tree three levels below the sources.
+/// bin/, all in one folder, and one to three levels below the top of a build tree.
 constexpr const char *SharePlaces[] = {
-    "../share/vantrixmap", ".", "..", "../share", "../..", "../../..", "../../../share"};
-
-QString findShareFolder()
-{
-    const QDir program(QCoreApplication::applicationDirPath());
-    for (const char *place : SharePlaces) {
-        QString folder = QDir::cleanPath(program.filePath(QLatin1String(place)));
-        if (QFileInfo(folder + CfgFile::hotkeysFolder()).isDir())
-            return folder;
-    }
-    return QString();
-}
+    "../share/vantrixmap", ".", "share", "../share", "../../share", "../../../share"};
 
 QString latestKey(int appType)
 {
@@ -34,13 +23,24 @@ QString latestKey(int appType)
 
 } // namespace
 
+QString HostLocations::shareFolderOf(const QString &programFolder)
+{
+    const QDir program(programFolder);
+    for (const char *place : SharePlaces) {
+        QString folder = QDir::cleanPath(program.absoluteFilePath(QLatin1String(place)));
+        if (QFileInfo(folder + CfgFile::hotkeysFolder()).isDir())
+            return folder;
+    }
+    return QString();
+}
+
 QString HostLocations::hotKeysFolderKey()
 {
     return QStringLiteral("hotKeysFolder");
 }
 
 HostLocations::HostLocations(const QString &dataFolder)
-    : m_data(dataFolder), m_share(findShareFolder())
+    : m_data(dataFolder), m_share(shareFolderOf(QCoreApplication::applicationDirPath()))
 {
     if (m_data.isEmpty())
         m_data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);

@@ -21,6 +21,9 @@ class HostLocations
 public:
     /// Name of the setting that names another catalog.
     static QString hotKeysFolderKey();
+    /// The share folder of a program in `programFolder`: the first place, installed or in a build
+    /// tree, that holds a catalog. Empty if none does.
+    static QString shareFolderOf(const QString &programFolder);
 
     /// The standard data folder and the share folder of this program. `dataFolder` replaces the
     /// former.

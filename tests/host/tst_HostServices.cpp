@@ -24,6 +24,10 @@ private slots:
     void catalogOfTheUser();
     void catalogBySetting();
     void catalogOfTheProgram();
+    void catalogPlaces_data();
+    void catalogPlaces();
+    void catalogOfThisTree();
+    void catalogOfTheUserReplaces();
     void catalogIsNowhere();
     void latestPaths();
 
@@ -177,6 +181,61 @@ void tst_HostServices::catalogOfTheProgram()
     services.locations().setShareFolder(m_folder->filePath(QStringLiteral("share")));
     QCOMPARE(services.locations().hotKeysFolder(services.store()),
              m_folder->filePath(QStringLiteral("share/hotkeys")));
+}
+
+void tst_HostServices::catalogPlaces_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QString>("share");
+    QTest::newRow("installed") << "/usr/bin"
+                               << "/usr/share/vantrixmap";
+    QTest::newRow("one folder") << "/opt/map"
+                                << "/opt/map";
+    QTest::newRow("one folder with share") << "/opt/map"
+                                           << "/opt/map/share";
+    QTest::newRow("build tree") << "/dev/shell"
+                                << "/dev/share";
+    QTest::newRow("build tree, configuration") << "/dev/shell/Debug"
+                                               << "/dev/share";
+    QTest::newRow("build tree, test") << "/dev/tests/host"
+                                      << "/dev/share";
+    QTest::newRow("build tree, both") << "/dev/tests/host/Debug"
+                                      << "/dev/share";
+}
+
+void tst_HostServices::catalogPlaces()
+{
+    QFETCH(QString, program);
+    QFETCH(QString, share);
+    const QString root = m_folder->path();
+    QVERIFY(QDir().mkpath(root + program));
+    QCOMPARE(HostLocations::shareFolderOf(root + program), QString());
+    QVERIFY(QDir().mkpath(root + share + QStringLiteral("/hotkeys")));
+    QCOMPARE(HostLocations::shareFolderOf(root + program), root + share);
+}
+
+void tst_HostServices::catalogOfThisTree()
+{
+    const HostServices services(data());
+    QVERIFY(catalog().endsWith(QStringLiteral("/share/hotkeys")));
+    QCOMPARE(QDir(catalog()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
+             QStringList({QStringLiteral("ILLUSTRATOR"), QStringLiteral("PHOTOSHOP"),
+                          QStringLiteral("PREMIERE PRO"), QStringLiteral("WINDOWS")}));
+}
+
+void tst_HostServices::catalogOfTheUserReplaces()
+{
+    HostServices services(data());
+    const QString shipped = catalog();
+    QVERIFY(!shipped.isEmpty());
+    const QString own = m_folder->filePath(QStringLiteral("own"));
+    QVERIFY(QDir().mkpath(own));
+    services.store().setSetting(HostLocations::hotKeysFolderKey(), own);
+    services.store().flush();
+    QCOMPARE(catalog(), own);
+    services.store().setSetting(HostLocations::hotKeysFolderKey(), QString());
+    services.store().flush();
+    QCOMPARE(catalog(), shipped);
 }
 
 void tst_HostServices::catalogIsNowhere()

@@ -1,27 +1,340 @@
 #include "advanced/AssignMenuWid.h"
 
-AssignMenuWid::AssignMenuWid(QWidget *parent) : QWidget(parent) {}
+#include "advanced/ReassignDlg.h"
+#include "interfaces/IEnvironment.h"
+#include "toolkit/DarkPalette.h"
+#include "toolkit/NarrowText.h"
+#include "ui_AssignMenuUi.h"
+#include "vocabulary/Common.h"
+#include "vocabulary/KeyCodes.h"
+#include "vocabulary/KeyImages.h"
+#include "vocabulary/KeyNames.h"
 
-void AssignMenuWid::setMode(int) {}
+#include <QEvent>
 
-void AssignMenuWid::setProfile(int, int) {}
+namespace {
 
-void AssignMenuWid::addKeyAssignMacro(std::string) {}
+/// Property of a label: its text before it was cut to the label's width.
+constexpr char wholeTextProperty[] = "wholeText";
 
-void AssignMenuWid::delKeyAssignMacro(std::string) {}
+void setSheet(QWidget *widget, const QString &sheet)
+{
+    if (widget->styleSheet() != sheet)
+        widget->setStyleSheet(sheet);
+}
 
-void AssignMenuWid::renameKeyAssignMacro(std::string, std::string) {}
+QString colorName(int iState)
+{
+    return inputColor(iState).name(QColor::HexArgb);
+}
 
-void AssignMenuWid::slotKeySelectionChanged(int) {}
+QString imageOfState(int iState, ushort code)
+{
+    if (iState == InputType::Media)
+        return imageOf(MediaImages(), code);
+    if (iState == InputType::GameController)
+        return imageOf(GameAssignImages(), code);
+    return QString();
+}
 
-void AssignMenuWid::slotVantrixKeySelected(vantrix_key_mapping) {}
+void setWholeText(QLabel *label, const QString &text)
+{
+    label->setProperty(wholeTextProperty, text);
+    Common::SetText(label, text);
+}
 
-void AssignMenuWid::slotUpdateVantrixKey(vantrix_key_mapping) {}
+/// A record of type 3 without a first action is how a dual action is taken off a key.
+vantrix_key_mapping assignable(const vantrix_key_mapping &key)
+{
+    return key.type == KeyType::DualAction && !isDualAction(key) ? clearedKey() : key;
+}
 
-void AssignMenuWid::slotApplicationSelected(int, int) {}
+} // namespace
 
-void AssignMenuWid::slotApplicationAdvSelected(QString) {}
+AssignMenuWid::AssignMenuWid(QWidget *parent)
+    : QWidget(parent), m_ui(new Ui::AssignMenuUi),
+      m_reassignDlg(new ReassignDlg(IEnvironment::Instance()->getMainWidget()))
+{
+    m_ui->setupUi(this);
+    setPalette(darkPalette());
+    m_ui->m_dualActionLab->hide();
+    for (QWidget *fitted : m_ui->widget->findChildren<QWidget *>())
+        fitted->installEventFilter(this);
+    connectButtons();
+    connectDialog();
+}
 
-void AssignMenuWid::slotDualActionSelected(vantrix_key_mapping) {}
+AssignMenuWid::~AssignMenuWid()
+{
+    delete m_reassignDlg.data();
+}
 
-void AssignMenuWid::slotMacroSelected(QString) {}
+void AssignMenuWid::connectButtons()
+{
+    connect(m_ui->m_reassignKey, &QPushButton::clicked, this, &AssignMenuWid::slotKeyReassign);
+    connect(m_ui->m_controllerMode, &QPushButton::clicked, this,
+            &AssignMenuWid::slotControllerMode);
+    connect(m_ui->m_dualActionMode, &QPushButton::clicked, this,
+            &AssignMenuWid::slotDualActionMode);
+    connect(m_ui->m_clearKey, &QPushButton::clicked, this, &AssignMenuWid::slotClearKeyAssign);
+    connect(m_ui->m_disableKey, &QPushButton::clicked, this, &AssignMenuWid::slotDisableKey);
+}
+
+void AssignMenuWid::connectDialog()
+{
+    const ReassignDlg *const dialog = m_reassignDlg;
+    connect(dialog, &ReassignDlg::sigVantrixKeyAssigned, this,
+            &AssignMenuWid::slotVantrixKeyAssigned);
+    connect(dialog, &ReassignDlg::sigCreateMacro, this, &AssignMenuWid::sigCreateMacro);
+    connect(dialog, &ReassignDlg::sigMacroAssigned, this, &AssignMenuWid::slotMacroAssigned);
+    connect(dialog, &ReassignDlg::sigApplicationAdvAssigned, this,
+            &AssignMenuWid::slotApplicationAdvAssigned);
+}
+
+void AssignMenuWid::setMode(int iMode)
+{
+    m_iMode = iMode;
+}
+
+void AssignMenuWid::setProfile(int iOwner, int iProfile)
+{
+    if (m_reassignDlg)
+        m_reassignDlg->setProfile(iOwner, iProfile);
+}
+
+void AssignMenuWid::addKeyAssignMacro(std::string strMacroName)
+{
+    if (m_reassignDlg)
+        m_reassignDlg->addKeyAssignMacro(strMacroName);
+}
+
+void AssignMenuWid::delKeyAssignMacro(std::string strMacroName)
+{
+    if (m_reassignDlg)
+        m_reassignDlg->delKeyAssignMacro(strMacroName);
+}
+
+void AssignMenuWid::renameKeyAssignMacro(std::string strOldName, std::string strNewName)
+{
+    if (m_reassignDlg)
+        m_reassignDlg->renameKeyAssignMacro(strOldName, strNewName);
+}
+
+void AssignMenuWid::slotKeySelectionChanged(int iKeyIdx)
+{
+    m_iKeyIdx = ushort(iKeyIdx);
+    m_ui->m_keyLab->setText(QStringLiteral("VANTRIX %1").arg(iKeyIdx + 1, 2, 10, QLatin1Char('0')));
+    narrowText(m_ui->m_keyLab, m_ui->m_keyLab->text(), m_ui->m_keyLab->contentsRect().width());
+    m_ui->m_controllerMode->setVisible(iKeyIdx < MainKeyCount);
+    m_ui->m_dualActionMode->setVisible(iKeyIdx < MainKeyCount);
+}
+
+void AssignMenuWid::slotVantrixKeySelected(vantrix_key_mapping key)
+{
+    if (key.type != KeyType::DualAction)
+        takePlain(key);
+    showDualActionLab();
+    reveal();
+}
+
+void AssignMenuWid::slotUpdateVantrixKey(vantrix_key_mapping key)
+{
+    if (key.type != KeyType::DualAction)
+        takePlain(key);
+}
+
+void AssignMenuWid::slotApplicationSelected(int iAppType, int iFuncId)
+{
+    Q_UNUSED(iAppType)
+    Q_UNUSED(iFuncId)
+    m_iState = InputType::Application;
+    m_strMacroNo.clear();
+    m_ui->m_dualActionLab->hide();
+    reveal();
+}
+
+void AssignMenuWid::slotApplicationAdvSelected(QString strKeyName)
+{
+    m_strMacroNo.clear();
+    m_iState = InputType::Application;
+    applyState(m_iState, QString(), strKeyName, m_ui->m_assignLab);
+    m_ui->m_dualActionLab->hide();
+    reveal();
+}
+
+void AssignMenuWid::slotDualActionSelected(vantrix_key_mapping key)
+{
+    if (key.digital.firstAction != 0)
+        takeDualAction(key);
+    else
+        takePlain(clearedKey());
+    showDualActionLab();
+    reveal();
+}
+
+void AssignMenuWid::slotMacroSelected(QString strMacroNo)
+{
+    takeLabel(InputType::Macro, strMacroNo);
+    m_strMacroNo = strMacroNo;
+    if (m_reassignDlg)
+        m_reassignDlg->setMacroSelected(strMacroNo);
+    m_ui->m_dualActionLab->hide();
+    reveal();
+}
+
+void AssignMenuWid::slotKeyReassign()
+{
+    openDialog(m_iState);
+}
+
+void AssignMenuWid::slotControllerMode()
+{
+    openDialog(InputType::GameController);
+}
+
+void AssignMenuWid::slotDualActionMode()
+{
+    openDialog(InputType::DualAction);
+}
+
+void AssignMenuWid::slotClearKeyAssign()
+{
+    takePlain(clearedKey());
+    emit sigVantrixKeyAssigned(m_key);
+}
+
+void AssignMenuWid::slotDisableKey()
+{
+    takePlain(vantrix_key_mapping());
+    emit sigVantrixKeyAssigned(m_key);
+}
+
+void AssignMenuWid::slotVantrixKeyAssigned(vantrix_key_mapping key)
+{
+    const vantrix_key_mapping taken = assignable(key);
+    if (taken.type == KeyType::DualAction)
+        takeDualAction(taken);
+    else
+        takePlain(taken);
+    showDualActionLab();
+    emit sigVantrixKeyAssigned(taken);
+}
+
+void AssignMenuWid::slotMacroAssigned(bool bSelected, QString strMacroNo, QString strMacroName,
+                                      int iShortcutId)
+{
+    if (bSelected) {
+        takeLabel(InputType::Macro, strMacroNo);
+        m_strMacroNo = strMacroNo;
+    } else {
+        takePlain(clearedKey());
+    }
+    showDualActionLab();
+    emit sigMacroAssigned(bSelected, strMacroNo, strMacroName, iShortcutId);
+}
+
+void AssignMenuWid::slotApplicationAdvAssigned(QString strHotKey, QString strKeyName)
+{
+    if (strKeyName.isEmpty())
+        takePlain(clearedKey());
+    else
+        takeLabel(InputType::Application, strKeyName);
+    showDualActionLab();
+    emit sigApplicationAdvAssigned(strHotKey, strKeyName);
+}
+
+/// Whatever the dialog's signals set off may destroy the menu: nothing may follow the call.
+void AssignMenuWid::openDialog(int iState)
+{
+    if (!m_reassignDlg)
+        return;
+    const vantrix_key_mapping key = m_key;
+    m_reassignDlg->setMacroSelected(m_strMacroNo);
+    m_reassignDlg->openFor(m_iKeyIdx, iState, &key);
+}
+
+void AssignMenuWid::takePlain(const vantrix_key_mapping &key)
+{
+    m_key = key;
+    m_strMacroNo.clear();
+    const ushort code = effectiveCode(key);
+    m_iState = inputTypeOfCode(m_iKeyIdx, char(key.type), code);
+    showMapping(m_iState, code, m_ui->m_assignLab);
+}
+
+void AssignMenuWid::takeDualAction(const vantrix_key_mapping &key)
+{
+    m_key = key;
+    m_strMacroNo.clear();
+    m_iState = InputType::DualAction;
+    const auto showAction = [this](ushort code, QLabel *lab) {
+        showMapping(inputTypeOfCode(m_iKeyIdx, KeyType::DualAction, code), code, lab);
+    };
+    showAction(key.digital.firstAction, m_ui->m_assignLab);
+    showAction(key.digital.secondAction, m_ui->m_dualActionLab);
+}
+
+/// The key shows a label from now on; the dialog must not take an older record for its function.
+void AssignMenuWid::takeLabel(int iState, const QString &strText)
+{
+    m_key = clearedKey();
+    m_key.type = KeyType::Label;
+    m_strMacroNo.clear();
+    m_iState = iState;
+    applyState(iState, QString(), strText, m_ui->m_assignLab);
+}
+
+void AssignMenuWid::showMapping(int iState, ushort code, QLabel *lab)
+{
+    applyState(iState, imageOfState(iState, code), mappingText(iState, code), lab);
+}
+
+QString AssignMenuWid::mappingText(int iState, ushort code) const
+{
+    if (iState == InputType::Media || iState == InputType::GameController)
+        return QString();
+    const bool isUnassigned = iState == InputType::Unassigned;
+    return keyLegendOfCode(isUnassigned ? defaultCodeOfKey(m_iKeyIdx) : code);
+}
+
+void AssignMenuWid::applyState(int iState, const QString &strImage, const QString &strText,
+                               QLabel *lab)
+{
+    setSheet(m_ui->m_keyLab, QStringLiteral("background:transparent;border:1px solid ") +
+                                 colorName(m_iState) + QStringLiteral(";min-height:37px;"));
+    // An address with nothing in it makes Qt complain.
+    const QString image = strImage.isEmpty()
+                              ? QString()
+                              : QStringLiteral("image:url(") + strImage + QStringLiteral(");");
+    setSheet(lab, QStringLiteral("border:none;background:") + colorName(iState) +
+                      QStringLiteral(";") + image + QStringLiteral("min-height:18px;"));
+    QPalette palette = lab->palette();
+    palette.setColor(QPalette::WindowText, readableOn(inputColor(iState)));
+    lab->setPalette(palette);
+    // Texts of buttons double their ampersands; a label shows both.
+    setWholeText(lab, QString(strText).replace(QLatin1String("&&"), QLatin1String("&")));
+}
+
+void AssignMenuWid::showDualActionLab()
+{
+    m_ui->m_dualActionLab->setVisible(m_iState == InputType::DualAction);
+}
+
+void AssignMenuWid::reveal()
+{
+    if (m_iMode != Mode::Simple)
+        show();
+}
+
+bool AssignMenuWid::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Resize) {
+        if (auto *const button = qobject_cast<QPushButton *>(watched))
+            narrowText(button, button->text(), button->width() - 4);
+        else if (watched == m_ui->m_keyLab)
+            narrowText(m_ui->m_keyLab, m_ui->m_keyLab->text(), m_ui->m_keyLab->width() - 4);
+        else if (auto *const label = qobject_cast<QLabel *>(watched))
+            Common::SetText(label, label->property(wholeTextProperty).toString());
+    }
+    return QWidget::eventFilter(watched, event);
+}

@@ -138,9 +138,7 @@ void Common::keyIconStyle(int inputType, ushort code, const QString &imagePath, 
         icon = imageOf(GameAssignImages(), code);
     const bool isLarge = inputType == InputType::GameController && hasLargeIcon(code);
 
-    style += QStringLiteral("QPushButton{");
-    if (!icon.isEmpty())
-        style += QStringLiteral("qproperty-icon:url(") + icon + QStringLiteral(");");
-    style += QStringLiteral("qproperty-iconSize:") + QString::number(isLarge ? 40 : 30) +
+    style += QStringLiteral("QPushButton{qproperty-icon:url(") + icon +
+             QStringLiteral(");qproperty-iconSize:") + QString::number(isLarge ? 40 : 30) +
              QStringLiteral("px;text-align:top;font-size:11px;}");
 }

@@ -41,6 +41,6 @@ public:
     /// Sheet of a key in the colour of an InputType; white for a type without a colour.
     static void keyColorStyle(int inputType, QString &style);
     /// The same with an icon: the picture of `code` for media and controller, else `imagePath`.
-    /// Without a picture the icon's rule is left out.
+    /// Without a picture the icon is empty.
     static void keyIconStyle(int inputType, ushort code, const QString &imagePath, QString &style);
 };

@@ -422,6 +422,18 @@ const char *keyFunctionName(ushort code)
     // clang-format off
     static const std::map<ushort, const char *> names = {
         {   0, QT_TRANSLATE_NOOP("KeyCodes", "DISABLE")},
+        { 104, QT_TRANSLATE_NOOP("KeyCodes", "F13")},
+        { 105, QT_TRANSLATE_NOOP("KeyCodes", "F14")},
+        { 106, QT_TRANSLATE_NOOP("KeyCodes", "F15")},
+        { 107, QT_TRANSLATE_NOOP("KeyCodes", "F16")},
+        { 108, QT_TRANSLATE_NOOP("KeyCodes", "F17")},
+        { 109, QT_TRANSLATE_NOOP("KeyCodes", "F18")},
+        { 110, QT_TRANSLATE_NOOP("KeyCodes", "F19")},
+        { 111, QT_TRANSLATE_NOOP("KeyCodes", "F20")},
+        { 112, QT_TRANSLATE_NOOP("KeyCodes", "F21")},
+        { 113, QT_TRANSLATE_NOOP("KeyCodes", "F22")},
+        { 114, QT_TRANSLATE_NOOP("KeyCodes", "F23")},
+        { 115, QT_TRANSLATE_NOOP("KeyCodes", "F24")},
         { 116, QT_TRANSLATE_NOOP("KeyCodes", "00")},
         { 117, QT_TRANSLATE_NOOP("KeyCodes", "=")},
         { 192, QT_TRANSLATE_NOOP("KeyCodes", "EFFECT CYCLE+")},

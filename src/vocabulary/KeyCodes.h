@@ -71,7 +71,7 @@ bool isExtendedCode(ushort code);
 bool isPowerModeCode(ushort code);
 
 /// Untranslated name of a device function; "UNKNOWN KEY" for a code it does not know, which
-/// includes the whole keyboard range.
+/// includes the keys whose names are legends (1 to 103, 224 to 231).
 const char *keyFunctionName(ushort code);
 
 /// InputType of a mapping: what the key shows as its state. `code` is the effective code.

@@ -26,7 +26,9 @@ bool isAnnounced(const QByteArray &line)
 {
     return line.contains(" This plugin does not support ") ||
            line.contains(" Could not parse stylesheet of object Keyboard(") ||
-           line.contains("Specified color without alpha value but alpha given: 'rgb 0,0,0,200'");
+           line.contains("Specified color without alpha value but alpha given: 'rgb 0,0,0,200'") ||
+           line.contains(
+               "Specified color without alpha value but alpha given: 'rgb 255,255,255,50'");
 }
 
 /// Number of warnings in a log of Qt Test, each told to the person who runs the test.

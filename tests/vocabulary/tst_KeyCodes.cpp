@@ -138,6 +138,18 @@ const std::map<int, int> VirtualKeys = {
 
 const std::map<int, const char *> Functions = {
         {0, "DISABLE"},
+        {104, "F13"},
+        {105, "F14"},
+        {106, "F15"},
+        {107, "F16"},
+        {108, "F17"},
+        {109, "F18"},
+        {110, "F19"},
+        {111, "F20"},
+        {112, "F21"},
+        {113, "F22"},
+        {114, "F23"},
+        {115, "F24"},
         {116, "00"},
         {117, "="},
         {192, "EFFECT CYCLE+"},
@@ -377,67 +389,133 @@ const std::vector<const char *> Inputs = {
 } // namespace
 // clang-format on
 
+Q_DECLARE_METATYPE(std::vector<int>)
+
 class tst_KeyCodes : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void defaultCodes_data();
     void defaultCodes();
+    void names_data();
     void names();
+    void scanCodes_data();
     void scanCodes();
+    void virtualKeys_data();
     void virtualKeys();
+    void firstScans();
+    void noOtherVirtualKeys();
     void precedingScans();
+    void unknownFunctions();
+    void extendedCodes();
+    void noOtherRows();
+    void functionNames_data();
     void functionNames();
+    void shortcuts_data();
     void shortcuts();
+    void sequences_data();
     void sequences();
+    void inputLists_data();
     void inputLists();
+    void inputs_data();
     void inputs();
     void powerModes();
     void inputTypes_data();
     void inputTypes();
 };
 
-void tst_KeyCodes::defaultCodes()
+namespace {
+
+void addRow(const QString &name, int number)
+{
+    QTest::newRow(qPrintable(name)) << number;
+}
+
+/// One row for each number of a map.
+template <typename Map>
+void addRows(const char *what, const Map &map)
+{
+    QTest::addColumn<int>("number");
+    for (const auto &row : map)
+        addRow(QStringLiteral("%1 %2").arg(QLatin1String(what)).arg(row.first), row.first);
+}
+
+} // namespace
+
+void tst_KeyCodes::defaultCodes_data()
 {
     const std::vector<int> codes = {53, 30,  31, 32, 33, 43, 20,  26,  8,   21, 57,  4,   22,  7,
                                     9,  225, 29, 27, 6,  25, 224, 192, 226, 44, 246, 245, 198, 199};
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("code");
     QCOMPARE(codes.size(), std::size_t(28));
     for (int key = 0; key < 28; ++key)
-        QCOMPARE(int(defaultCodeOfKey(key)), codes[std::size_t(key)]);
+        QTest::addRow("key %d", key) << key << codes[std::size_t(key)];
     for (const int key : {28, -1, 65535})
-        QCOMPARE(int(defaultCodeOfKey(key)), 0);
+        QTest::addRow("no key %d", key) << key << 0;
+}
+
+void tst_KeyCodes::defaultCodes()
+{
+    QFETCH(int, key);
+    QFETCH(int, code);
+    QCOMPARE(int(defaultCodeOfKey(key)), code);
+}
+
+void tst_KeyCodes::names_data()
+{
+    QTest::addColumn<int>("number");
+    for (std::size_t number = 0; number < Names.size(); ++number)
+        addRow(QStringLiteral("name ") + QLatin1String(Names[number].name), int(number));
 }
 
 void tst_KeyCodes::names()
 {
-    QCOMPARE(Names.size(), std::size_t(95));
-    QCOMPARE(KeyNameCodes().size(), std::size_t(95));
-    for (const NameRow &row : Names) {
-        const auto found = KeyNameCodes().at(QString::fromLatin1(row.name));
-        QCOMPARE(int(found.first), row.code);
-        QCOMPARE(int(found.second), row.flag);
-    }
+    QFETCH(int, number);
+    const NameRow &row = Names[std::size_t(number)];
+    const auto found = KeyNameCodes().at(QString::fromLatin1(row.name));
+    QCOMPARE(int(found.first), row.code);
+    QCOMPARE(int(found.second), row.flag);
+}
+
+void tst_KeyCodes::scanCodes_data()
+{
+    addRows("scan", Scans);
 }
 
 void tst_KeyCodes::scanCodes()
 {
-    QCOMPARE(Scans.size(), std::size_t(110));
-    QCOMPARE(ScanToKeyCode().size(), std::size_t(110));
-    for (const auto &[scan, code] : Scans)
-        QCOMPARE(int(ScanToKeyCode().at(scan)), code);
+    QFETCH(int, number);
+    QCOMPARE(int(ScanToKeyCode().at(number)), Scans.at(number));
+}
+
+void tst_KeyCodes::firstScans()
+{
     std::map<int, int> first;
     for (const auto &[scan, code] : Scans)
         first.emplace(code, scan);
-    for (int code = 0; code < 3100; ++code)
+    for (int code = 0; code < 65536; ++code)
         QCOMPARE(scanOfKeyCode(ushort(code)), first.count(code) ? first[code] : 0);
     QCOMPARE(scanOfKeyCode(100), 86);
 }
 
+void tst_KeyCodes::virtualKeys_data()
+{
+    addRows("virtual key", VirtualKeys);
+}
+
 void tst_KeyCodes::virtualKeys()
 {
+    QFETCH(int, number);
+    QCOMPARE(int(codeOfVirtualKey(quint32(number))), VirtualKeys.at(number));
+}
+
+void tst_KeyCodes::noOtherVirtualKeys()
+{
     for (quint32 key = 0; key < 512; ++key) {
-        const auto row = VirtualKeys.find(int(key));
-        QCOMPARE(int(codeOfVirtualKey(key)), row == VirtualKeys.end() ? 0 : row->second);
+        if (VirtualKeys.count(int(key)) == 0)
+            QCOMPARE(int(codeOfVirtualKey(key)), 0);
     }
 }
 
@@ -449,69 +527,121 @@ void tst_KeyCodes::precedingScans()
         QCOMPARE(int(codeOfPrecedingScan(quint32(scan))), rows.count(scan) ? rows.at(scan) : 0);
 }
 
+void tst_KeyCodes::functionNames_data()
+{
+    addRows("code", Functions);
+}
+
 void tst_KeyCodes::functionNames()
 {
+    QFETCH(int, number);
+    QCOMPARE(keyFunctionName(ushort(number)), Functions.at(number));
+}
+
+void tst_KeyCodes::unknownFunctions()
+{
     for (int code = 0; code < 65536; ++code) {
-        const auto row = Functions.find(code);
-        QCOMPARE(keyFunctionName(ushort(code)),
-                 row == Functions.end() ? "UNKNOWN KEY" : row->second);
+        if (Functions.count(code) == 0)
+            QCOMPARE(keyFunctionName(ushort(code)), "UNKNOWN KEY");
     }
+    for (const int code : {1, 4, 100, 103, 197, 224, 231, 255})
+        QCOMPARE(keyFunctionName(ushort(code)), "UNKNOWN KEY");
+}
+
+void tst_KeyCodes::shortcuts_data()
+{
+    QTest::addColumn<int>("number");
+    for (std::size_t id = 0; id < Shortcuts.size(); ++id)
+        addRow(QStringLiteral("%1 %2").arg(id).arg(QLatin1String(Shortcuts[id].name)), int(id));
 }
 
 void tst_KeyCodes::shortcuts()
 {
-    QCOMPARE(WinShortcutKeys().size(), std::size_t(17));
-    for (int id = 0; id < 17; ++id) {
-        QCOMPARE(winShortcutName(id), Shortcuts[std::size_t(id)].name);
-        QVERIFY(WinShortcutKeys().at(id) == Shortcuts[std::size_t(id)].keys);
-    }
-    QCOMPARE(winShortcutName(17), "");
-    QCOMPARE(winShortcutName(-1), "");
+    QFETCH(int, number);
+    const ShortcutRow &row = Shortcuts[std::size_t(number)];
+    QCOMPARE(winShortcutName(number), row.name);
+    QVERIFY(WinShortcutKeys().at(number) == row.keys);
+}
+
+void tst_KeyCodes::sequences_data()
+{
+    addRows("code", Sequences);
 }
 
 void tst_KeyCodes::sequences()
 {
-    QCOMPARE(Sequences.size(), std::size_t(44));
-    QCOMPARE(SymbolKeySequences().size(), std::size_t(44));
-    for (const auto &[code, keys] : Sequences)
-        QVERIFY(SymbolKeySequences().at(ushort(code)) == keys);
+    QFETCH(int, number);
+    QVERIFY(SymbolKeySequences().at(ushort(number)) == Sequences.at(number));
+}
+
+void tst_KeyCodes::extendedCodes()
+{
     for (int code = 0; code < 65536; ++code)
         QCOMPARE(isExtendedCode(ushort(code)), Sequences.count(code) != 0);
 }
 
-void tst_KeyCodes::inputLists()
+void tst_KeyCodes::noOtherRows()
 {
-    using List = std::vector<ushort>;
-    const auto &lists = InputKeyLists();
-    QCOMPARE(lists.size(), std::size_t(5));
-    QVERIFY(lists.at(1) ==
-            (List{496, 497, 498, 488, 489, 1282, 1283, 500, 499, 481, 483, 485, 487}));
-    QVERIFY(lists.at(2) == (List{240, 241, 242, 243, 246, 245, 244}));
-    QVERIFY(lists.at(7) == List{312});
-    QVERIFY(lists.at(8) == (List{385, 386, 403, 402, 401, 400}));
-    QVERIFY(lists.at(9) ==
-            (List{1536, 1537, 1538, 1539, 1540, 1541, 1542, 1543, 1544, 1545, 1546, 1547, 1548,
-                  1549, 1550, 1551, 1552, 1553, 1554, 1555, 1556, 1557, 1558, 1559, 1570, 1571}));
+    QCOMPARE(Names.size(), std::size_t(95));
+    QCOMPARE(KeyNameCodes().size(), std::size_t(95));
+    QCOMPARE(Scans.size(), std::size_t(110));
+    QCOMPARE(ScanToKeyCode().size(), std::size_t(110));
+    QCOMPARE(WinShortcutKeys().size(), std::size_t(17));
+    QCOMPARE(winShortcutName(17), "");
+    QCOMPARE(winShortcutName(-1), "");
+    QCOMPARE(Sequences.size(), std::size_t(44));
+    QCOMPARE(SymbolKeySequences().size(), std::size_t(44));
+    QCOMPARE(InputKeyLists().size(), std::size_t(5));
+    QCOMPARE(InputColors().size(), std::size_t(12));
+    QCOMPARE(InputColors().count(10), std::size_t(0));
 }
 
-void tst_KeyCodes::inputs()
+void tst_KeyCodes::inputLists_data()
 {
+    using List = std::vector<int>;
+    QTest::addColumn<int>("input");
+    QTest::addColumn<List>("codes");
+    QTest::newRow("mouse") << 1 << List{496, 497, 498, 488, 489, 1282, 1283,
+                                        500, 499, 481, 483, 485, 487};
+    QTest::newRow("media") << 2 << List{240, 241, 242, 243, 246, 245, 244};
+    QTest::newRow("presso functions") << 7 << List{312};
+    QTest::newRow("backlight") << 8 << List{385, 386, 403, 402, 401, 400};
+    QTest::newRow("profile") << 9 << List{1536, 1537, 1538, 1539, 1540, 1541, 1542, 1543, 1544,
+                                          1545, 1546, 1547, 1548, 1549, 1550, 1551, 1552, 1553,
+                                          1554, 1555, 1556, 1557, 1558, 1559, 1570, 1571};
+}
+
+void tst_KeyCodes::inputLists()
+{
+    QFETCH(int, input);
+    QFETCH(std::vector<int>, codes);
+    const auto &list = InputKeyLists().at(input);
+    QCOMPARE(std::vector<int>(list.begin(), list.end()), codes);
+}
+
+void tst_KeyCodes::inputs_data()
+{
+    QTest::addColumn<int>("input");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QColor>("color");
     const std::vector<QColor> colors = {
         QColor(253, 0, 253),  QColor(246, 148, 29),  QColor(0, 84, 166),    QColor(213, 6, 129),
         QColor(0, 174, 238),  QColor(255, 255, 0),   QColor(60, 184, 120),  QColor(0, 0, 255),
         QColor(166, 124, 82), QColor(255, 247, 153), QColor(255, 255, 255), QColor(255, 0, 0),
         QColor(0, 255, 0)};
-    QCOMPARE(InputColors().size(), std::size_t(12));
-    QCOMPARE(InputColors().count(10), std::size_t(0));
-    for (int input = 0; input < 13; ++input) {
-        QCOMPARE(inputTypeName(input), Inputs[std::size_t(input)]);
-        QCOMPARE(inputColor(input).name(QColor::HexArgb),
-                 colors[std::size_t(input)].name(QColor::HexArgb));
-    }
-    for (const int other : {13, -1}) {
-        QCOMPARE(inputTypeName(other), "UNKNOWN");
-        QCOMPARE(inputColor(other).name(QColor::HexArgb), QStringLiteral("#ffffffff"));
-    }
+    for (std::size_t input = 0; input < Inputs.size(); ++input)
+        QTest::newRow(Inputs[input]) << int(input) << Inputs[input] << colors[input];
+    QTest::newRow("past the last") << 13 << "UNKNOWN" << QColor(255, 255, 255);
+    QTest::newRow("negative") << -1 << "UNKNOWN" << QColor(255, 255, 255);
+}
+
+void tst_KeyCodes::inputs()
+{
+    QFETCH(int, input);
+    QFETCH(QString, name);
+    QFETCH(QColor, color);
+    QCOMPARE(QString::fromLatin1(inputTypeName(input)), name);
+    QCOMPARE(inputColor(input).name(QColor::HexArgb), color.name(QColor::HexArgb));
 }
 
 void tst_KeyCodes::powerModes()

@@ -8,6 +8,7 @@ class tst_KeyLegends : public QObject
     Q_OBJECT
 
 private slots:
+    void everyLegend_data();
     void everyLegend();
     void edges();
     void languages();
@@ -15,17 +16,27 @@ private slots:
     void rowsOfTheLayouts();
 };
 
-void tst_KeyLegends::everyLegend()
+void tst_KeyLegends::everyLegend_data()
 {
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("language");
     QCOMPARE(legendRows().size(), std::size_t(110));
     QCOMPARE(KeyLegends().size(), std::size_t(110));
-    for (const LegendRow &row : legendRows()) {
-        for (int language = 0; language < 15; ++language) {
-            QCOMPARE(keyLegend(row.scanCode, language), expectedLegend(row, language));
-            QCOMPARE(QString::fromUtf8(KeyLegends().at(row.scanCode)[std::size_t(language)]),
-                     expectedLegend(row, language));
-        }
+    for (int row = 0; row < 110; ++row) {
+        for (int language = 0; language < 15; ++language)
+            QTest::addRow("scan %d language %d", legendRows()[std::size_t(row)].scanCode, language)
+                << row << language;
     }
+}
+
+void tst_KeyLegends::everyLegend()
+{
+    QFETCH(int, row);
+    QFETCH(int, language);
+    const LegendRow &expected = legendRows()[std::size_t(row)];
+    QCOMPARE(keyLegend(expected.scanCode, language), expectedLegend(expected, language));
+    QCOMPARE(QString::fromUtf8(KeyLegends().at(expected.scanCode)[std::size_t(language)]),
+             expectedLegend(expected, language));
 }
 
 void tst_KeyLegends::edges()

@@ -1,0 +1,358 @@
+#include "shell/ProfileList.h"
+
+#include "shell/ShellStyle.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPainter>
+#include <QStyledItemDelegate>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+enum Role { ProfileRole = Qt::UserRole, DirtyRole, OnDeviceRole, MarkedRole };
+
+constexpr int RowHeight = 32;
+constexpr int NumberWidth = 30;
+constexpr int MaxNameLength = 40;
+
+/// A row: number, name, what the device has.
+class ProfileDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override
+    {
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        const bool isShown = option.state & QStyle::State_Selected;
+        if (isShown)
+            painter->fillRect(option.rect, ShellStyle::accent());
+        else if (option.state & QStyle::State_MouseOver)
+            painter->fillRect(option.rect, ShellStyle::raised());
+        if (index.data(MarkedRole).toBool()) {
+            painter->setPen(QPen(ShellStyle::warning(), 2));
+            painter->drawRoundedRect(option.rect.adjusted(2, 2, -2, -2), 4, 4);
+        }
+        QRect rest = option.rect.adjusted(0, 0, -8, 0);
+        paintState(painter, option, index, rest);
+        painter->setFont(option.font);
+        painter->setPen(isShown ? ShellStyle::text() : ShellStyle::dim());
+        painter->drawText(rest.left(), rest.top(), NumberWidth, rest.height(),
+                          Qt::AlignRight | Qt::AlignVCenter,
+                          QString::number(index.data(ProfileRole).toInt() + 1));
+        rest.setLeft(rest.left() + NumberWidth + 10);
+        painter->setPen(ShellStyle::text());
+        const QString name =
+            option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, rest.width());
+        painter->drawText(rest, Qt::AlignLeft | Qt::AlignVCenter, name);
+        painter->restore();
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const override
+    {
+        return {100, qMax(RowHeight, option.fontMetrics.height() + 12)};
+    }
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &,
+                          const QModelIndex &) const override
+    {
+        auto *editor = new QLineEdit(parent);
+        editor->setObjectName(QStringLiteral("m_nameEdit"));
+        editor->setMaxLength(MaxNameLength);
+        return editor;
+    }
+
+private:
+    /// Paints the marks at the right end and takes their room from `rest`.
+    void paintState(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
+                    QRect &rest) const
+    {
+        if (index.data(DirtyRole).toBool()) {
+            painter->setPen(Qt::NoPen);
+            painter->setBrush(ShellStyle::warning());
+            painter->drawEllipse(QPointF(rest.right() - 4, rest.center().y() + 1), 4, 4);
+        }
+        rest.setRight(rest.right() - 16);
+        if (!index.data(OnDeviceRole).toBool())
+            return;
+        QFont small = option.font;
+        small.setPointSizeF(small.pointSizeF() * 0.75);
+        const QString text = QCoreApplication::translate("ProfileList", "DEVICE");
+        const int width = QFontMetrics(small).horizontalAdvance(text) + 10;
+        const QRect badge(rest.right() - width, rest.center().y() - 8, width, 17);
+        painter->setPen(QPen(ShellStyle::text(), 1));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(badge, 3, 3);
+        painter->setFont(small);
+        painter->drawText(badge, Qt::AlignCenter, text);
+        rest.setRight(badge.left() - 6);
+    }
+};
+
+} // namespace
+
+ProfileList::ProfileList(ShellContext &context, QWidget *parent)
+    : QWidget(parent), m_context(context), m_list(new QListWidget(this))
+{
+    setObjectName(QStringLiteral("m_profileList"));
+    setStyleSheet(ShellStyle::panelSheet());
+    m_list->setObjectName(QStringLiteral("m_profiles"));
+    m_list->setAccessibleName(tr("Profiles"));
+    m_list->setItemDelegate(new ProfileDelegate(m_list));
+    m_list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setMouseTracking(true);
+
+    auto *heading = new QLabel(tr("PROFILES"), this);
+    heading->setStyleSheet(ShellStyle::headingSheet());
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(4);
+    QToolButton *const copy =
+        addButton(tr("Copy"), tr("Copy this profile over another one"), "m_duplicateBtn");
+    auto *targets = new QMenu(copy);
+    connect(targets, &QMenu::aboutToShow, this, [this, targets] { fillTargets(targets); });
+    copy->setMenu(targets);
+    copy->setPopupMode(QToolButton::InstantPopup);
+    QToolButton *const empty =
+        addButton(tr("Clear"), tr("Take everything off the keys of this profile"), "m_clearBtn");
+    QToolButton *const up = addButton(QStringLiteral("▲"), tr("Move up (Alt+Up)"), "m_upBtn");
+    QToolButton *const down =
+        addButton(QStringLiteral("▼"), tr("Move down (Alt+Down)"), "m_downBtn");
+    for (QToolButton *button : {copy, empty, up, down})
+        buttons->addWidget(button);
+    buttons->insertStretch(2);
+    connect(empty, &QToolButton::clicked, this, &ProfileList::clear);
+    connect(up, &QToolButton::clicked, this, &ProfileList::moveUp);
+    connect(down, &QToolButton::clicked, this, &ProfileList::moveDown);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(10, 10, 6, 10);
+    layout->addWidget(heading);
+    layout->addWidget(m_list, 1);
+    layout->addLayout(buttons);
+
+    ProfileStore &store = context.store();
+    connect(m_list, &QListWidget::currentRowChanged, this, &ProfileList::onRowChanged);
+    connect(m_list, &QListWidget::itemChanged, this, &ProfileList::onEdited);
+    connect(&store, &ProfileStore::profileListChanged, this, &ProfileList::refresh);
+    connect(&store, &ProfileStore::profileChanged, this, &ProfileList::refresh);
+    connect(&store, &ProfileStore::macrosChanged, this, &ProfileList::refresh);
+    connect(&store, &ProfileStore::deviceChanged, this, &ProfileList::refresh);
+    connect(&context, &ShellContext::profileShown, this, &ProfileList::refresh);
+    connect(&context, &ShellContext::keysMarked, this,
+            [this](const std::set<std::pair<int, int>> &keys) {
+                std::set<int> profiles;
+                for (const auto &key : keys)
+                    profiles.insert(key.first);
+                setMarked(profiles);
+            });
+    refresh();
+}
+
+QToolButton *ProfileList::addButton(const QString &text, const QString &tip, const char *name)
+{
+    auto *button = new QToolButton(this);
+    button->setObjectName(QLatin1String(name));
+    button->setText(text);
+    button->setToolTip(tip);
+    button->setAccessibleName(tip);
+    button->setFocusPolicy(Qt::StrongFocus);
+    return button;
+}
+
+void ProfileList::fillMenu(QMenu *menu)
+{
+    menu->addAction(tr("&Rename..."), this, &ProfileList::rename, QKeySequence(Qt::Key_F2));
+    menu->addAction(tr("&Duplicate"), this, &ProfileList::duplicate,
+                    QKeySequence(Qt::CTRL + Qt::Key_D));
+    QMenu *const targets = menu->addMenu(tr("Copy &Over"));
+    connect(targets, &QMenu::aboutToShow, this, [this, targets] { fillTargets(targets); });
+    menu->addAction(tr("&Clear"), this, &ProfileList::clear);
+    menu->addSeparator();
+    menu->addAction(tr("Move &Up"), this, &ProfileList::moveUp, QKeySequence(Qt::ALT + Qt::Key_Up));
+    menu->addAction(tr("Move Do&wn"), this, &ProfileList::moveDown,
+                    QKeySequence(Qt::ALT + Qt::Key_Down));
+    menu->addSeparator();
+    menu->addAction(
+        tr("&Next Profile"), this, [this] { showNext(1); },
+        QKeySequence(Qt::CTRL + Qt::Key_PageDown));
+    menu->addAction(
+        tr("&Previous Profile"), this, [this] { showNext(-1); },
+        QKeySequence(Qt::CTRL + Qt::Key_PageUp));
+}
+
+void ProfileList::setMarked(const std::set<int> &profiles)
+{
+    m_marked = profiles;
+    refresh();
+}
+
+void ProfileList::refresh()
+{
+    const std::vector<int> order = m_context.store().state().profileOrder(m_context.owner());
+    m_isFilling = true;
+    for (int row = 0; row < int(order.size()); ++row) {
+        if (row >= m_list->count()) {
+            auto *item = new QListWidgetItem(m_list);
+            item->setFlags(item->flags() | Qt::ItemIsEditable);
+        }
+        m_list->item(row)->setData(ProfileRole, order[std::size_t(row)]);
+        refreshRow(m_list->item(row));
+    }
+    m_list->setCurrentRow(rowOf(m_context.profile()));
+    m_isFilling = false;
+}
+
+void ProfileList::refreshRow(QListWidgetItem *item)
+{
+    const int owner = m_context.owner();
+    const int profile = item->data(ProfileRole).toInt();
+    const SimulatedDevice &device = m_context.device();
+    const bool isDirty = device.differs(owner, profile);
+    const bool isOnDevice = device.currentOwner() == owner && device.currentProfile() == profile;
+    const QString name = m_context.store().state().profileName(owner, profile);
+    item->setText(name);
+    item->setData(DirtyRole, isDirty);
+    item->setData(OnDeviceRole, isOnDevice);
+    item->setData(MarkedRole, m_marked.count(profile) > 0);
+    QStringList words = {name};
+    if (profile == m_context.profile())
+        words << tr("shown");
+    if (isOnDevice)
+        words << tr("the device acts by it");
+    if (isDirty)
+        words << tr("differs from what the device has");
+    item->setToolTip(words.join(QStringLiteral(", ")));
+    item->setData(Qt::AccessibleTextRole, item->toolTip());
+}
+
+int ProfileList::rowOf(int profile) const
+{
+    for (int row = 0; row < m_list->count(); ++row) {
+        if (m_list->item(row)->data(ProfileRole).toInt() == profile)
+            return row;
+    }
+    return -1;
+}
+
+void ProfileList::onRowChanged(int row)
+{
+    if (!m_isFilling && row >= 0)
+        emit m_context.goTo(m_list->item(row)->data(ProfileRole).toInt(), NoKey);
+}
+
+void ProfileList::onEdited(QListWidgetItem *item)
+{
+    if (m_isFilling)
+        return;
+    const int profile = item->data(ProfileRole).toInt();
+    m_context.store().setProfileName(m_context.owner(), profile, item->text());
+    refresh();
+}
+
+void ProfileList::rename()
+{
+    m_list->setFocus();
+    m_list->editItem(m_list->currentItem());
+}
+
+bool ProfileList::isUnused(int profile) const
+{
+    const StoreState &state = m_context.store().state();
+    return state.keys(m_context.owner(), profile) == freshKeys() &&
+           state.record(profileRecord(StoreTable::ProfileName, m_context.owner(), profile))
+               .isEmpty();
+}
+
+void ProfileList::duplicate()
+{
+    const std::vector<int> order = m_context.store().state().profileOrder(m_context.owner());
+    const int from = m_context.profile();
+    const auto free = std::find_if(order.begin(), order.end(), [this, from](int profile) {
+        return profile != from && isUnused(profile);
+    });
+    if (free == order.end())
+        emit m_context.status(tr("All profiles are in use: choose one to copy over."));
+    else
+        duplicateTo(*free);
+}
+
+void ProfileList::duplicateTo(int profile)
+{
+    ProfileStore &store = m_context.store();
+    const int from = m_context.profile();
+    const QString name = store.state().profileName(m_context.owner(), from);
+    {
+        const StoreStepScope step(store, tr("Duplicate %1").arg(name));
+        store.duplicateProfile(m_context.owner(), from, profile);
+    }
+    emit m_context.status(tr("%1 was copied to profile %2.").arg(name).arg(profile + 1));
+    emit m_context.goTo(profile, NoKey);
+}
+
+void ProfileList::fillTargets(QMenu *menu)
+{
+    menu->clear();
+    const StoreState &state = m_context.store().state();
+    for (const int profile : state.profileOrder(m_context.owner())) {
+        QString text = QStringLiteral("%1  %2")
+                           .arg(profile + 1)
+                           .arg(state.profileName(m_context.owner(), profile));
+        if (isUnused(profile))
+            text = tr("%1  (unused)").arg(text);
+        QAction *const action =
+            menu->addAction(text, this, [this, profile] { duplicateTo(profile); });
+        action->setEnabled(profile != m_context.profile());
+    }
+}
+
+void ProfileList::clear()
+{
+    ProfileStore &store = m_context.store();
+    const QString name = store.state().profileName(m_context.owner(), m_context.profile());
+    {
+        const StoreStepScope step(store, tr("Clear %1").arg(name));
+        store.clearProfile(m_context.owner(), m_context.profile());
+    }
+    emit m_context.status(tr("%1 was cleared. Undo brings it back.").arg(name));
+}
+
+void ProfileList::move(int step)
+{
+    const int row = rowOf(m_context.profile());
+    if (row + step < 0 || row + step >= m_list->count())
+        return;
+    ProfileStore &store = m_context.store();
+    const QString name = store.state().profileName(m_context.owner(), m_context.profile());
+    {
+        const StoreStepScope scope(store, tr("Move %1").arg(name));
+        store.moveProfile(m_context.owner(), row, row + step);
+    }
+    refresh();
+}
+
+void ProfileList::moveUp()
+{
+    move(-1);
+}
+
+void ProfileList::moveDown()
+{
+    move(1);
+}
+
+void ProfileList::showNext(int step)
+{
+    const int count = m_list->count();
+    m_list->setCurrentRow((rowOf(m_context.profile()) + step + count) % count);
+}

@@ -1,0 +1,119 @@
+#include "shell/SettingsDlg.h"
+
+#include "interfaces/Modal.h"
+#include "shell/ShellStyle.h"
+#include "vocabulary/AppTables.h"
+#include "vocabulary/KeyLegends.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+
+namespace {
+
+constexpr int MaxMacroAssigns = 4096;
+constexpr int MinWidth = 560;
+
+} // namespace
+
+QString SettingsDlg::languageKey()
+{
+    return QStringLiteral("language");
+}
+
+SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
+    : QDialog(parent), m_context(context), m_language(new QComboBox(this)),
+      m_hotKeys(new QLineEdit(this)), m_macroAssigns(new QSpinBox(this))
+{
+    setWindowTitle(tr("Settings"));
+    setObjectName(QStringLiteral("SettingsDlg"));
+    setMinimumWidth(MinWidth);
+    setStyleSheet(ShellStyle::panelSheet());
+    m_language->setObjectName(QStringLiteral("m_language"));
+    m_hotKeys->setObjectName(QStringLiteral("m_hotKeys"));
+    m_macroAssigns->setObjectName(QStringLiteral("m_macroAssigns"));
+    fillLanguages();
+    ProfileStore &store = context.store();
+    m_hotKeys->setText(store.setting(HostLocations::hotKeysFolderKey()));
+    m_hotKeys->setPlaceholderText(context.services().locations().hotKeysFolder(store));
+    m_macroAssigns->setRange(0, MaxMacroAssigns);
+    m_macroAssigns->setValue(store.macroAssignLimit());
+
+    auto *form = new QFormLayout(this);
+    form->setContentsMargins(16, 16, 16, 16);
+    form->addRow(tr("&Language of the keys:"), m_language);
+    form->addRow(tr("&Hot-key catalog:"), makePathRow(m_hotKeys, [this] {
+                     return QFileDialog::getExistingDirectory(this, tr("Hot-key catalog"),
+                                                              m_hotKeys->text());
+                 }));
+    for (int type = 0; type < AppType::Count; ++type) {
+        auto *edit = new QLineEdit(this);
+        edit->setObjectName(QStringLiteral("m_app%1").arg(type));
+        QString path;
+        store.getAppPath(type, path);
+        edit->setText(path);
+        edit->setPlaceholderText(tr("not found"));
+        m_apps[std::size_t(type)] = edit;
+        form->addRow(tr(appTypeName(type)) + QLatin1Char(':'), makePathRow(edit, [this, edit] {
+                         return Modal::openFileName(this, tr("Program"), edit->text(), QString());
+                     }));
+    }
+    form->addRow(tr("Keys with &macros in a profile:"), m_macroAssigns);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    form->addRow(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &SettingsDlg::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &SettingsDlg::reject);
+}
+
+void SettingsDlg::fillLanguages()
+{
+    std::map<int, QString> names;
+    for (const auto &[name, index] : LanguageIndex())
+        names.emplace(index, name);
+    for (const auto &[index, name] : names)
+        m_language->addItem(name, index);
+    const int language = m_context.services().environment().getLanguage();
+    m_language->setCurrentIndex(m_language->findData(language));
+}
+
+QWidget *SettingsDlg::makePathRow(QLineEdit *edit, const std::function<QString()> &browse)
+{
+    auto *row = new QWidget(this);
+    auto *button = new QPushButton(tr("Browse..."), row);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(edit, 1);
+    layout->addWidget(button);
+    row->setFocusProxy(edit);
+    connect(button, &QPushButton::clicked, edit, [edit, browse] {
+        const QString path = browse();
+        if (!path.isEmpty())
+            edit->setText(path);
+    });
+    return row;
+}
+
+void SettingsDlg::accept()
+{
+    ProfileStore &store = m_context.store();
+    HostLocations &locations = m_context.services().locations();
+    for (int type = 0; type < AppType::Count; ++type) {
+        const QString path = m_apps[std::size_t(type)]->text().trimmed();
+        store.setAppPath(type, path);
+        if (!path.isEmpty())
+            locations.setLatestAppPath(type, path);
+    }
+    locations.install(store);
+    if (m_macroAssigns->value() != store.macroAssignLimit())
+        store.setMacroAssignLimit(m_macroAssigns->value());
+    store.setSetting(HostLocations::hotKeysFolderKey(), m_hotKeys->text().trimmed());
+    if (m_language->currentData().toInt() != m_context.services().environment().getLanguage())
+        store.setSetting(languageKey(), m_language->currentData().toString());
+    QDialog::accept();
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "shell/ShellContext.h"
+
+#include <QDialog>
+
+class QComboBox;
+class QLineEdit;
+class QSpinBox;
+
+/// The settings: keyboard language, folder of the hot-key catalog, paths of the applications, and
+/// how many keys of a profile may hold macros. Nothing changes before OK.
+class SettingsDlg : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// Name of the setting that holds the language's number.
+    static QString languageKey();
+
+    explicit SettingsDlg(ShellContext &context, QWidget *parent = nullptr);
+
+    void accept() override;
+
+private:
+    void fillLanguages();
+    QWidget *makePathRow(QLineEdit *edit, const std::function<QString()> &browse);
+
+    ShellContext &m_context;
+    QComboBox *m_language;
+    QLineEdit *m_hotKeys;
+    std::array<QLineEdit *, AppType::Count> m_apps{};
+    QSpinBox *m_macroAssigns;
+};

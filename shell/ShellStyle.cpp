@@ -1,0 +1,115 @@
+#include "shell/ShellStyle.h"
+
+#include "core/records.h"
+#include "vocabulary/KeyCodes.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+QColor ShellStyle::window()
+{
+    return QColor(0x1a, 0x1a, 0x1d);
+}
+
+QColor ShellStyle::panel()
+{
+    return QColor(0x23, 0x23, 0x27);
+}
+
+QColor ShellStyle::raised()
+{
+    return QColor(0x31, 0x31, 0x37);
+}
+
+QColor ShellStyle::line()
+{
+    return QColor(0x42, 0x42, 0x4a);
+}
+
+QColor ShellStyle::text()
+{
+    return QColor(0xf0, 0xee, 0xf2);
+}
+
+QColor ShellStyle::dim()
+{
+    return QColor(0xa9, 0xa6, 0xb0);
+}
+
+QColor ShellStyle::accent()
+{
+    return QColor(0x84, 0x31, 0x9b);
+}
+
+QColor ShellStyle::warning()
+{
+    return QColor(0xff, 0xb0, 0x3b);
+}
+
+void ShellStyle::install()
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QPalette palette;
+    palette.setColor(QPalette::Window, window());
+    palette.setColor(QPalette::WindowText, text());
+    palette.setColor(QPalette::Base, panel());
+    palette.setColor(QPalette::AlternateBase, raised());
+    palette.setColor(QPalette::Text, text());
+    palette.setColor(QPalette::PlaceholderText, dim());
+    palette.setColor(QPalette::Button, raised());
+    palette.setColor(QPalette::ButtonText, text());
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, raised());
+    palette.setColor(QPalette::ToolTipText, text());
+    palette.setColor(QPalette::Highlight, accent());
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0xc9, 0x8b, 0xdb));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x76, 0x74, 0x7c));
+    QApplication::setPalette(palette);
+}
+
+QString ShellStyle::panelSheet()
+{
+    return QStringLiteral(
+               "QPushButton,QToolButton{background:%1;border:1px solid %2;border-radius:4px;"
+               "padding:5px 10px;}"
+               "QPushButton:hover,QToolButton:hover{border-color:%3;}"
+               "QPushButton:pressed,QToolButton:pressed,QPushButton:checked{background:%3;}"
+               "QPushButton:focus,QToolButton:focus{border-color:%4;}"
+               "QPushButton:disabled,QToolButton:disabled{color:#76747c;background:transparent;}"
+               "QToolButton::menu-indicator{image:none;}"
+               "QListView,QTreeView,QTableView{background:%5;border:1px solid %2;"
+               "border-radius:4px;outline:none;}"
+               "QListView:focus,QTreeView:focus,QTableView:focus{border-color:%3;}"
+               "QHeaderView::section{background:%1;color:%6;border:none;padding:4px 6px;}"
+               "QLineEdit,QSpinBox,QComboBox{background:%5;border:1px solid %2;border-radius:4px;"
+               "padding:4px 6px;}"
+               "QLineEdit:focus,QSpinBox:focus,QComboBox:focus{border-color:%4;}")
+        .arg(raised().name(), line().name(), accent().name(), text().name(), panel().name(),
+             dim().name());
+}
+
+QString ShellStyle::tabSheet()
+{
+    return QStringLiteral("QPushButton{background:transparent;border:none;color:%1;"
+                          "padding:8px 12px;border-bottom:3px solid transparent;}"
+                          "QPushButton:hover{color:%2;}"
+                          "QPushButton:checked{color:%2;border-bottom-color:%3;}"
+                          "QPushButton:focus{background:%4;}")
+        .arg(dim().name(), text().name(), accent().lighter(130).name(), raised().name());
+}
+
+QString ShellStyle::headingSheet()
+{
+    return QStringLiteral("color:%1;font-weight:bold;").arg(dim().name());
+}
+
+QColor ShellStyle::kind(int inputType)
+{
+    if (inputType == InputType::Unassigned)
+        return line().lighter(130);
+    const QColor color = inputColor(inputType);
+    // Plain blue on a dark ground cannot be read.
+    return color.lightness() < 110 || qGray(color.rgb()) < 70 ? color.lighter(150) : color;
+}

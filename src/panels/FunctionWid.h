@@ -7,7 +7,7 @@
 class ButtonGroupEx;
 class QAbstractButton;
 
-/// What the three panels of device functions share: checkable buttons, one for each code that
+/// What the panels of plain device codes share: checkable buttons, one for each code that
 /// InputKeyLists holds for the panel's input, with the device codes as ids.
 class FunctionWid : public QWidget
 {

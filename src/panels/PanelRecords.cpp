@@ -9,12 +9,16 @@ vantrix_key_mapping recordOfClick(const ButtonGroupEx *group, QAbstractButton *c
     return clicked->isChecked() ? plainKey(ushort(group->id(clicked))) : clearedKey();
 }
 
-void checkPlainKey(ButtonGroupEx *group, const vantrix_key_mapping &key)
+void checkButton(ButtonGroupEx *group, int id)
 {
-    if (key.type != KeyType::Plain)
-        return;
-    if (group->button(key.code))
-        group->setButtonChecked(key.code, true);
+    if (group->button(id))
+        group->setButtonChecked(id, true);
     else
         group->setNoneButtonChecked();
+}
+
+void checkPlainKey(ButtonGroupEx *group, const vantrix_key_mapping &key)
+{
+    if (key.type == KeyType::Plain)
+        checkButton(group, key.code);
 }

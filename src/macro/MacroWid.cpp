@@ -1,17 +1,178 @@
 #include "macro/MacroWid.h"
 
-MacroWid::MacroWid(QWidget *parent) : QWidget(parent) {}
+#include "core/records.h"
+#include "interfaces/IVantrixProfileCfg.h"
+#include "toolkit/PanelStyle.h"
+#include "vocabulary/KeyCodes.h"
 
-void MacroWid::addMacro(std::string) {}
+#include "ui_MacroUi.h"
 
-void MacroWid::delMacro(std::string) {}
+#include <QListWidgetItem>
+#include <QScrollBar>
+#include <QSignalBlocker>
 
-void MacroWid::renameMacro(std::string, std::string) {}
+class MacroItem : public QListWidgetItem
+{
+public:
+    MacroItem(const QString &number, const QString &name) : m_number(number), m_name(name)
+    {
+        setTextAlignment(Qt::AlignCenter);
+        updateText();
+    }
 
-void MacroWid::refreshAssigns() {}
+    const QString &number() const { return m_number; }
+    const QString &name() const { return m_name; }
 
-void MacroWid::setOwnerProfile(int, int) {}
+    void setNumber(const QString &number)
+    {
+        m_number = number;
+        updateText();
+    }
 
-void MacroWid::clearSelection() {}
+    void setName(const QString &name)
+    {
+        m_name = name;
+        updateText();
+    }
 
-void MacroWid::slotMacroSelected(QString) {}
+private:
+    void updateText() { setText(m_number + QStringLiteral(" - ") + m_name); }
+
+    QString m_number;
+    QString m_name;
+};
+
+namespace {
+
+QString numberOfRow(int row)
+{
+    return QLatin1Char('M') + QString::number(row + 1);
+}
+
+/// A selected macro has the colour that its keys have.
+void colorSelection(QListWidget *list)
+{
+    QPalette palette = list->palette();
+    palette.setColor(QPalette::Highlight, inputColor(InputType::Macro));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    list->setPalette(palette);
+}
+
+} // namespace
+
+MacroWid::MacroWid(QWidget *parent) : QWidget(parent), m_ui(std::make_unique<Ui::MacroUi>())
+{
+    m_ui->setupUi(this);
+    colorSelection(m_ui->m_macroList);
+    m_ui->m_macroList->verticalScrollBar()->setStyleSheet(scrollBarSheet());
+    m_ui->m_macroList->setAccessibleName(tr(inputTypeName(InputType::Macro)));
+    connect(m_ui->m_createBtn, &QPushButton::clicked, this, &MacroWid::sigCreateMacro);
+    connect(m_ui->m_macroList, &QListWidget::itemSelectionChanged, this,
+            &MacroWid::slotMacroChanged);
+}
+
+MacroWid::~MacroWid()
+{
+    // The list empties itself when it goes, and there is no panel left to hear of it.
+    m_ui->m_macroList->blockSignals(true);
+}
+
+MacroItem *MacroWid::item(int row) const
+{
+    return static_cast<MacroItem *>(m_ui->m_macroList->item(row));
+}
+
+int MacroWid::rowOfName(const std::string &name) const
+{
+    const QString wanted = QString::fromStdString(name);
+    for (int row = 0; row < m_ui->m_macroList->count(); ++row) {
+        if (item(row)->name() == wanted)
+            return row;
+    }
+    return -1;
+}
+
+void MacroWid::announceKeys(const MacroItem *macro)
+{
+    std::map<uchar, uchar> assign;
+    if (IVantrixProfileCfg::Instance()->getKeysOfMacro(m_iOwner, m_iProfile,
+                                                       macro->name().toStdString(), &assign) &&
+        !assign.empty())
+        emit sigAssignedKey(macro->number(), macro->name(), assign);
+}
+
+void MacroWid::addMacro(std::string name)
+{
+    auto *const macro =
+        new MacroItem(numberOfRow(m_ui->m_macroList->count()), QString::fromStdString(name));
+    m_ui->m_macroList->addItem(macro);
+    announceKeys(macro);
+}
+
+void MacroWid::delMacro(std::string name)
+{
+    const int removed = rowOfName(name);
+    if (removed < 0)
+        return;
+    {
+        // Taking out the selected macro changes the selection, which is nothing that the user did.
+        const QSignalBlocker blocker(m_ui->m_macroList);
+        delete m_ui->m_macroList->takeItem(removed);
+    }
+    for (int row = removed; row < m_ui->m_macroList->count(); ++row) {
+        item(row)->setNumber(numberOfRow(row));
+        announceKeys(item(row));
+    }
+}
+
+void MacroWid::renameMacro(std::string oldName, std::string newName)
+{
+    const int row = rowOfName(oldName);
+    if (row < 0)
+        return;
+    MacroItem *const macro = item(row);
+    macro->setName(QString::fromStdString(newName));
+    emit sigRenameMacro(macro->number(), macro->name());
+}
+
+void MacroWid::refreshAssigns()
+{
+    for (int row = 0; row < m_ui->m_macroList->count(); ++row)
+        announceKeys(item(row));
+}
+
+void MacroWid::setOwnerProfile(int iOwner, int iProfile)
+{
+    m_iOwner = iOwner;
+    m_iProfile = iProfile;
+    const QSignalBlocker blocker(m_ui->m_macroList);
+    m_ui->m_macroList->clear();
+}
+
+void MacroWid::clearSelection()
+{
+    const QSignalBlocker blocker(m_ui->m_macroList);
+    m_ui->m_macroList->clearSelection();
+}
+
+void MacroWid::slotMacroSelected(QString strMacroNo)
+{
+    const QSignalBlocker blocker(m_ui->m_macroList);
+    for (int row = 0; row < m_ui->m_macroList->count(); ++row)
+        item(row)->setSelected(item(row)->number() == strMacroNo);
+}
+
+void MacroWid::slotMacroChanged()
+{
+    const auto *const current = static_cast<MacroItem *>(m_ui->m_macroList->currentItem());
+    if (!current)
+        return;
+    const QList<QListWidgetItem *> selected = m_ui->m_macroList->selectedItems();
+    // Each of these runs this slot again, and the run that sees one item left emits.
+    for (QListWidgetItem *const other : selected) {
+        if (other != current)
+            other->setSelected(false);
+    }
+    if (selected.size() < 2)
+        emit sigMacroAssigned(!selected.isEmpty(), current->number(), current->name(), -1);
+}

@@ -38,18 +38,14 @@ void SearchGrid::search(const QString &text)
     if (changes.empty())
         return;
 
-    // A container that nobody sees stays as it is: hiding one that waits for its parent to be
-    // shown would keep it hidden then.
-    const bool wasVisible = m_container->isVisible();
-    if (wasVisible)
-        m_container->hide();
+    const bool wasHidden = m_container->isHidden();
+    m_container->hide();
     for (const Change &change : changes) {
         if (change.cell != change.entry->cell)
             place(*change.entry, change.cell);
         change.entry->button->setVisible(change.visible);
     }
-    if (wasVisible)
-        m_container->show();
+    m_container->setVisible(!wasHidden);
 }
 
 QString SearchGrid::shownText(const QAbstractButton *button)

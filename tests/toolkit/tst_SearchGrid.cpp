@@ -68,7 +68,6 @@ private slots:
     void hiddenKeepTheirCells();
     void shownTextIsTested();
     void hiddenContainerStaysHidden();
-    void unseenContainerAppearsWithItsParent();
     void nothingChangesNothing();
     void manyInOnePass();
     void cleared();
@@ -191,21 +190,6 @@ void tst_SearchGrid::hiddenContainerStaysHidden()
     m_grid->search(QStringLiteral("b"));
     QVERIFY(m_container->isHidden());
     QCOMPARE(cells(), QStringLiteral("B:0,0"));
-}
-
-void tst_SearchGrid::unseenContainerAppearsWithItsParent()
-{
-    QWidget page;
-    auto *const container = new QWidget(&page);
-    SearchGrid grid(new QGridLayout(container), 3, container);
-    auto *const button = new QPushButton(QStringLiteral("C"), container);
-    grid.append(button);
-    grid.search(QStringLiteral("D"));
-    page.show();
-    QVERIFY(container->isVisible());
-    QVERIFY(!button->isVisible());
-    grid.search(QString());
-    QVERIFY(button->isVisible());
 }
 
 void tst_SearchGrid::nothingChangesNothing()

@@ -1,0 +1,86 @@
+#include "advanced/ControllerKeyWid.h"
+
+#include "vocabulary/Common.h"
+#include "vocabulary/KeyCodes.h"
+
+#include "ui_ControllerKeyUi.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int TextMargin = 6;
+
+QString padKeyName(int keyIdx)
+{
+    return QStringLiteral("VANTRIX %1").arg(keyIdx + 1, 2, 10, QLatin1Char('0'));
+}
+
+} // namespace
+
+ControllerKeyWid::ControllerKeyWid(int iKeyId, QWidget *parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::ControllerKeyUi>()), m_iKeyId(iKeyId)
+{
+    m_ui->setupUi(this);
+    const QString name = tr(keyFunctionName(ushort(iKeyId)));
+    m_ui->m_gamepad->setText(name);
+    m_ui->m_keyNo->setAccessibleName(name);
+    connect(m_ui->m_keyNo, &QPushButton::clicked, this, &ControllerKeyWid::slotKeyAssigned);
+}
+
+ControllerKeyWid::~ControllerKeyWid() = default;
+
+void ControllerKeyWid::setKeys(int iCurrKey, const std::vector<int> &lsKeys)
+{
+    m_iCurrKey = iCurrKey;
+    m_lsKeys = lsKeys;
+    updateKeyText();
+}
+
+void ControllerKeyWid::delCurrKey()
+{
+    if (takeCurrKey())
+        updateKeyText();
+}
+
+bool ControllerKeyWid::takeCurrKey()
+{
+    const auto found = std::find(m_lsKeys.begin(), m_lsKeys.end(), m_iCurrKey);
+    if (found == m_lsKeys.end())
+        return false;
+    m_lsKeys.erase(found);
+    return true;
+}
+
+void ControllerKeyWid::slotKeyAssigned()
+{
+    if (takeCurrKey()) {
+        emit sigGameControllerChanged(clearedKey());
+    } else {
+        m_lsKeys.insert(m_lsKeys.begin(), m_iCurrKey);
+        emit sigAddCurrKeyToGamepad(ushort(m_iKeyId));
+        emit sigGameControllerChanged(gameKey(ushort(m_iKeyId)));
+    }
+    updateKeyText();
+}
+
+void ControllerKeyWid::updateKeyText()
+{
+    QStringList names;
+    for (const int keyIdx : m_lsKeys)
+        names << padKeyName(keyIdx);
+    Common::SetText(m_ui->m_keyNo, names.join(QStringLiteral(",\n")));
+    m_ui->m_keyNo->setAccessibleDescription(names.join(QStringLiteral(", ")));
+}
+
+void ControllerKeyWid::search(QString strText)
+{
+    const bool found =
+        !strText.isEmpty() && m_ui->m_gamepad->text().startsWith(strText, Qt::CaseInsensitive);
+    const QString sheet =
+        QStringLiteral("background:transparent;border:1px solid rgb(132,50,155);") +
+        (found ? QStringLiteral("color:white;font-weight:bold;")
+               : QStringLiteral("color:rgb(235,235,235);"));
+    if (m_ui->m_gamepad->styleSheet() != sheet)
+        m_ui->m_gamepad->setStyleSheet(sheet);
+}

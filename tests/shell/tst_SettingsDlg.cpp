@@ -1,0 +1,79 @@
+#include "shell/SettingsDlg.h"
+
+#include "ShellFixture.h"
+#include "support/Gestures.h"
+#include "support/TestMain.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSpinBox>
+
+class tst_SettingsDlg : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void showsWhatIsStored();
+    void acceptStores();
+    void cancelStoresNothing();
+    void pathsAreFoundAgain();
+};
+
+void tst_SettingsDlg::showsWhatIsStored()
+{
+    ShellFixture shell;
+    shell.store().setAppPath(1, QStringLiteral("/opt/pr"));
+    shell.store().setMacroAssignLimit(12);
+    shell.services.environment().setLanguage(4);
+    SettingsDlg dialog(shell.context);
+    auto *const language = child<QComboBox>(&dialog, "m_language");
+    QCOMPARE(language->count(), 15);
+    QCOMPARE(language->currentData().toInt(), 4);
+    QCOMPARE(child<QLineEdit>(&dialog, "m_app0")->text(), QString());
+    QCOMPARE(child<QLineEdit>(&dialog, "m_app1")->text(), QStringLiteral("/opt/pr"));
+    QCOMPARE(child<QSpinBox>(&dialog, "m_macroAssigns")->value(), 12);
+}
+
+void tst_SettingsDlg::acceptStores()
+{
+    ShellFixture shell;
+    SettingsDlg dialog(shell.context);
+    auto *const language = child<QComboBox>(&dialog, "m_language");
+    language->setCurrentIndex(language->findData(7));
+    child<QLineEdit>(&dialog, "m_hotKeys")->setText(shell.folder.path());
+    child<QLineEdit>(&dialog, "m_app2")->setText(QStringLiteral("/opt/ai"));
+    child<QSpinBox>(&dialog, "m_macroAssigns")->setValue(5);
+    dialog.accept();
+    shell.store().flush();
+    QCOMPARE(shell.store().setting(QStringLiteral("language")), QStringLiteral("7"));
+    QCOMPARE(shell.services.locations().hotKeysFolder(shell.store()), shell.folder.path());
+    QString path;
+    shell.store().getAppPath(2, path);
+    QCOMPARE(path, QStringLiteral("/opt/ai"));
+    QCOMPARE(shell.store().macroAssignLimit(), 5);
+    QVERIFY(!shell.store().canUndo());
+}
+
+void tst_SettingsDlg::cancelStoresNothing()
+{
+    ShellFixture shell;
+    const QByteArray before = shell.store().state().toBytes();
+    SettingsDlg dialog(shell.context);
+    child<QSpinBox>(&dialog, "m_macroAssigns")->setValue(5);
+    child<QLineEdit>(&dialog, "m_app2")->setText(QStringLiteral("/opt/ai"));
+    dialog.reject();
+    QVERIFY(shell.store().state().toBytes() == before);
+}
+
+void tst_SettingsDlg::pathsAreFoundAgain()
+{
+    ShellFixture shell;
+    SettingsDlg dialog(shell.context);
+    child<QLineEdit>(&dialog, "m_app0")->setText(QStringLiteral("/opt/ps"));
+    dialog.accept();
+    QCOMPARE(shell.services.locations().latestAppPaths(),
+             QStringList({QStringLiteral("/opt/ps"), QString(), QString()}));
+}
+
+VANTRIX_TEST_MAIN(tst_SettingsDlg)
+#include "tst_SettingsDlg.moc"

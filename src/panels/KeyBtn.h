@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panels/FixedBtn.h"
+#include "toolkit/FixedBtn.h"
 
 /// One key of the drawn keyboard: checkable, its legend drawn from the top.
 class KeyBtn : public FixedBtn

@@ -3,9 +3,9 @@
 #include "interfaces/ButtonGroupEx.h"
 #include "interfaces/ISystemHotKey.h"
 #include "interfaces/Modal.h"
-#include "panels/FixedBtn.h"
 #include "panels/KeyBtn.h"
 #include "platform/NativeKey.h"
+#include "toolkit/FixedBtn.h"
 #include "vocabulary/KeyCodes.h"
 #include "vocabulary/KeyLegends.h"
 

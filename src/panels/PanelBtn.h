@@ -1,6 +1,6 @@
 #pragma once
 
-#include "panels/FixedBtn.h"
+#include "toolkit/FixedBtn.h"
 
 class QHBoxLayout;
 class QLabel;

@@ -1,8 +1,8 @@
 #include "panels/PressoFunWid.h"
 
 #include "interfaces/ButtonGroupEx.h"
-#include "panels/FixedBtn.h"
 #include "panels/PanelRecords.h"
+#include "toolkit/FixedBtn.h"
 #include "toolkit/NarrowText.h"
 #include "vocabulary/KeyCodes.h"
 

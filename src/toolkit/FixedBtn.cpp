@@ -1,4 +1,4 @@
-#include "panels/FixedBtn.h"
+#include "toolkit/FixedBtn.h"
 
 #include <QEvent>
 

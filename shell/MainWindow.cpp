@@ -1,0 +1,414 @@
+#include "shell/MainWindow.h"
+
+#include "shell/MappingView.h"
+#include "shell/MessageBar.h"
+#include "shell/ProfileList.h"
+#include "shell/SettingsDlg.h"
+#include "shell/ShellStyle.h"
+
+#include "interfaces/Modal.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+
+/// Width of the room right of the profiles from which both pages fit.
+constexpr int RoomForBoth = 1180;
+constexpr int SideWidth = 430;
+constexpr int ProfilesWidth = 216;
+constexpr QSize InitialSize(1280, 900);
+constexpr QSize MinimumSize(900, 600);
+
+QString geometryKey()
+{
+    return QStringLiteral("windowGeometry");
+}
+
+QString profileKey()
+{
+    return QStringLiteral("shownProfile");
+}
+
+QString captureKey()
+{
+    return QStringLiteral("assignByPressing");
+}
+
+} // namespace
+
+MainWindow::MainWindow(ShellContext &context)
+    : m_context(context), m_messages(new MessageBar(this)),
+      m_profiles(new ProfileList(context, this)), m_mapping(new MappingView(context, this)),
+      m_side(new QStackedWidget(this)), m_tabs(new QButtonGroup(this)), m_undo(new QAction(this)),
+      m_redo(new QAction(this))
+{
+    setObjectName(QStringLiteral("MainWindow"));
+    setMinimumSize(MinimumSize);
+    makeBody();
+    makeStatusBar();
+    makeMenus();
+    connectContext();
+    qApp->installEventFilter(this);
+    context.services().environment().setMainWidget(this);
+    restore();
+}
+
+MainWindow::~MainWindow()
+{
+    qApp->removeEventFilter(this);
+}
+
+// ---- putting together ----
+
+void MainWindow::makeBody()
+{
+    auto *body = new QWidget(this);
+    m_profiles->setFixedWidth(ProfilesWidth);
+    m_side->setObjectName(QStringLiteral("m_sidePages"));
+    m_pages = ShellPages::make(m_context, m_side);
+    for (const ShellPages::Entry &entry : m_pages)
+        m_side->addWidget(entry.widget);
+
+    auto *pages = new QHBoxLayout;
+    pages->setSpacing(0);
+    pages->addWidget(m_mapping, 1);
+    pages->addWidget(m_side, 1);
+    auto *right = new QVBoxLayout;
+    right->setSpacing(0);
+    right->addWidget(makeBar());
+    right->addLayout(pages, 1);
+    auto *rows = new QHBoxLayout;
+    rows->setSpacing(0);
+    rows->addWidget(m_profiles);
+    rows->addLayout(right, 1);
+    auto *layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_messages);
+    layout->addLayout(rows, 1);
+    setCentralWidget(body);
+}
+
+QWidget *MainWindow::makeBar()
+{
+    auto *bar = new QWidget(this);
+    bar->setObjectName(QStringLiteral("m_pageBar"));
+    auto *layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(8, 6, 8, 4);
+    layout->setSpacing(2);
+    auto *tabs = new QWidget(bar);
+    tabs->setStyleSheet(ShellStyle::tabSheet());
+    auto *tabLayout = new QHBoxLayout(tabs);
+    tabLayout->setContentsMargins(0, 0, 0, 0);
+    tabLayout->setSpacing(2);
+    m_tabs->setExclusive(true);
+    addTab(ShellPage::Mapping, tr("MAPPING"), tabLayout);
+    for (const ShellPages::Entry &entry : m_pages)
+        addTab(entry.page, entry.title, tabLayout);
+    layout->addWidget(tabs);
+    layout->addStretch(1);
+    m_findBar = ShellPages::makeFindBar(m_context, bar);
+    if (m_findBar)
+        layout->addWidget(m_findBar, 3);
+    for (QAction *action : {m_undo, m_redo}) {
+        auto *button = new QToolButton(bar);
+        button->setDefaultAction(action);
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::TabFocus);
+        layout->addWidget(button);
+    }
+    connect(m_tabs, &QButtonGroup::idClicked, this, [this](int id) { showPage(ShellPage(id)); });
+    return bar;
+}
+
+void MainWindow::addTab(ShellPage page, const QString &title, QHBoxLayout *layout)
+{
+    auto *tab = new QPushButton(title);
+    tab->setObjectName(QStringLiteral("m_tab%1").arg(int(page)));
+    tab->setCheckable(true);
+    m_tabs->addButton(tab, int(page));
+    layout->addWidget(tab);
+}
+
+void MainWindow::makeStatusBar()
+{
+    m_status = new QLabel(this);
+    m_applied = new QLabel(this);
+    m_saved = new QLabel(this);
+    m_status->setObjectName(QStringLiteral("m_statusLab"));
+    m_applied->setObjectName(QStringLiteral("m_appliedLab"));
+    m_saved->setObjectName(QStringLiteral("m_savedLab"));
+    m_status->setContentsMargins(8, 0, 0, 0);
+    m_status->setMinimumWidth(1);
+    statusBar()->addWidget(m_status, 1);
+    statusBar()->addPermanentWidget(m_applied);
+    statusBar()->addPermanentWidget(m_saved);
+}
+
+void MainWindow::makeMenus()
+{
+    QMenu *const file = menuBar()->addMenu(tr("&File"));
+    ShellPages::addFileActions(file, m_context, this);
+    file->addAction(tr("&Settings..."), this, &MainWindow::openSettings,
+                    QKeySequence(Qt::CTRL + Qt::Key_Comma));
+    file->addSeparator();
+    file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
+    makeEditMenu();
+    m_profiles->fillMenu(menuBar()->addMenu(tr("&Profile")));
+    makeViewMenu();
+}
+
+void MainWindow::makeEditMenu()
+{
+    QMenu *const edit = menuBar()->addMenu(tr("&Edit"));
+    m_undo->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Z));
+    m_redo->setShortcuts(
+        {QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z), QKeySequence(Qt::CTRL + Qt::Key_Y)});
+    m_undo->setIconText(QStringLiteral("↶"));
+    m_redo->setIconText(QStringLiteral("↷"));
+    connect(m_undo, &QAction::triggered, this, &MainWindow::undo);
+    connect(m_redo, &QAction::triggered, this, &MainWindow::redo);
+    edit->addAction(m_undo);
+    edit->addAction(m_redo);
+    edit->addSeparator();
+    if (m_findBar)
+        edit->addAction(
+            tr("&Find Keys..."), this, [this] { m_findBar->setFocus(Qt::ShortcutFocusReason); },
+            QKeySequence(Qt::CTRL + Qt::Key_F));
+    m_capture = edit->addAction(tr("Assign by &Pressing Keys"));
+    m_capture->setCheckable(true);
+    m_capture->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_K));
+    m_capture->setStatusTip(tr("While a key of the pad is selected, the next key that is pressed "
+                               "is put on it. Off, the keyboard works the window."));
+    connect(m_capture, &QAction::toggled, this, [this](bool on) {
+        m_mapping->setCaptureAllowed(on);
+        m_context.store().setSetting(captureKey(), on ? QString() : QStringLiteral("0"));
+    });
+    edit->addSeparator();
+    edit->addAction(tr("&Apply to Device"), &m_context, &ShellContext::applyRequested,
+                    QKeySequence(Qt::CTRL + Qt::Key_Return));
+}
+
+void MainWindow::makeViewMenu()
+{
+    QMenu *const view = menuBar()->addMenu(tr("&View"));
+    int number = 0;
+    for (QAbstractButton *tab : m_tabs->buttons()) {
+        const ShellPage page = ShellPage(m_tabs->id(tab));
+        view->addAction(
+            tab->text(), this, [this, page] { showPage(page); },
+            QKeySequence(Qt::CTRL + Qt::Key_1 + number++));
+    }
+}
+
+void MainWindow::connectContext()
+{
+    ProfileStore &store = m_context.store();
+    connect(&m_context, &ShellContext::goTo, this, [this](int profile, int key) {
+        m_mapping->showProfile(profile, key);
+        if (key < KeyCount && !m_mapping->isVisible())
+            showPage(ShellPage::Mapping);
+    });
+    connect(&m_context, &ShellContext::pageRequested, this, &MainWindow::showPage);
+    connect(&m_context, &ShellContext::newMacroRequested, this,
+            [this] { showPage(ShellPage::Macros); });
+    connect(&m_context, &ShellContext::historyRequested, this, &MainWindow::travelTo);
+    connect(&m_context, &ShellContext::status, m_status, &QLabel::setText);
+    connect(&m_context, &ShellContext::profileShown, this, &MainWindow::updateState);
+    connect(&store, &ProfileStore::profileChanged, this, &MainWindow::updateState);
+    connect(&store, &ProfileStore::macrosChanged, this, &MainWindow::updateState);
+    connect(&store, &ProfileStore::profileListChanged, this, &MainWindow::updateState);
+    connect(&store, &ProfileStore::deviceChanged, this, &MainWindow::updateState);
+    connect(&store, &ProfileStore::savedChanged, this, &MainWindow::updateState);
+    connect(&store, &ProfileStore::stepsChanged, this, &MainWindow::updateSteps);
+    connect(&store, &ProfileStore::profileChanged, this, &MainWindow::updateSteps);
+    connect(&store, &ProfileStore::settingChanged, this, &MainWindow::onSettingChanged);
+    for (const QString &text : store.messages())
+        m_messages->add(text);
+    connect(&store, &ProfileStore::message, m_messages, &MessageBar::add);
+}
+
+void MainWindow::restore()
+{
+    ProfileStore &store = m_context.store();
+    const QByteArray geometry = QByteArray::fromBase64(store.setting(geometryKey()).toLatin1());
+    if (geometry.isEmpty() || !restoreGeometry(geometry))
+        resize(InitialSize);
+    m_capture->setChecked(store.setting(captureKey()) != QLatin1String("0"));
+    m_mapping->setCaptureAllowed(m_capture->isChecked());
+    const int profile = qBound(0, store.setting(profileKey()).toInt(), ProfileCount - 1);
+    const int key = store.getCurrentKey(m_context.owner(), profile);
+    showPage(ShellPage::Mapping);
+    m_mapping->showProfile(profile, key);
+    updateSteps();
+    sayWhatIsPending();
+}
+
+void MainWindow::sayWhatIsPending()
+{
+    const StoreState &state = m_context.store().state();
+    QStringList names;
+    for (const int profile : state.profileOrder(m_context.owner())) {
+        if (m_context.device().differs(m_context.owner(), profile))
+            names << state.profileName(m_context.owner(), profile);
+    }
+    m_status->setText(names.isEmpty() ? tr("Everything is on the device.")
+                                      : tr("Not on the device yet: %1.").arg(names.join(tr(", "))));
+}
+
+// ---- pages ----
+
+void MainWindow::showPage(ShellPage page)
+{
+    QAbstractButton *const tab = m_tabs->button(int(page));
+    if (!tab)
+        return;
+    tab->setChecked(true);
+    m_page = page;
+    for (const ShellPages::Entry &entry : m_pages) {
+        if (entry.page == page)
+            m_side->setCurrentWidget(entry.widget);
+    }
+    arrange();
+}
+
+void MainWindow::arrange()
+{
+    const bool hasRoom = width() - ProfilesWidth >= RoomForBoth;
+    const bool isSide = m_page != ShellPage::Mapping;
+    m_side->setVisible(isSide);
+    m_mapping->setVisible(hasRoom || !isSide);
+    if (hasRoom)
+        m_side->setFixedWidth(qMax(SideWidth, (width() - ProfilesWidth) / 3));
+    else
+        m_side->setFixedWidth(QWIDGETSIZE_MAX);
+    m_side->setMinimumWidth(hasRoom ? m_side->minimumWidth() : 0);
+}
+
+void MainWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    arrange();
+}
+
+// ---- steps ----
+
+void MainWindow::undo()
+{
+    follow(m_context.store().undo(), tr("Undone: %1"));
+}
+
+void MainWindow::redo()
+{
+    follow(m_context.store().redo(), tr("Done again: %1"));
+}
+
+void MainWindow::travelTo(int position)
+{
+    ProfileStore &store = m_context.store();
+    while (store.stepPosition() > position && store.canUndo())
+        undo();
+    while (store.stepPosition() < position && store.canRedo())
+        redo();
+}
+
+void MainWindow::follow(const std::optional<StepOutcome> &outcome, const QString &text)
+{
+    if (!outcome)
+        return;
+    if (outcome->pressoChanged) {
+        m_context.device().setPressureEnabled(m_context.store().getPressoEnabled());
+        m_mapping->refresh();
+    }
+    // The shown profile has been shown again already, as the store told.
+    if (outcome->profile >= 0 && outcome->profile != m_context.profile())
+        m_mapping->showProfile(outcome->profile, outcome->currentKey);
+    emit m_context.status(text.arg(outcome->name));
+}
+
+void MainWindow::updateSteps()
+{
+    const ProfileStore &store = m_context.store();
+    m_undo->setEnabled(store.canUndo());
+    m_redo->setEnabled(store.canRedo());
+    m_undo->setText(store.canUndo() ? tr("&Undo %1").arg(store.undoName()) : tr("&Undo"));
+    m_redo->setText(store.canRedo() ? tr("&Redo %1").arg(store.redoName()) : tr("&Redo"));
+    m_undo->setIconText(QStringLiteral("↶"));
+    m_redo->setIconText(QStringLiteral("↷"));
+    m_undo->setToolTip(tr("Undo %1 (Ctrl+Z)").arg(store.undoName()));
+    m_redo->setToolTip(tr("Redo %1 (Ctrl+Shift+Z)").arg(store.redoName()));
+}
+
+// ---- state ----
+
+QString MainWindow::statusText() const
+{
+    return m_status->text();
+}
+
+void MainWindow::updateState()
+{
+    const ProfileStore &store = m_context.store();
+    const int owner = m_context.owner();
+    const QString name = store.state().profileName(owner, m_context.profile());
+    const int count = int(m_context.device().pending(owner, m_context.profile()).size());
+    const QString device = store.state().profileName(m_context.device().currentOwner(),
+                                                     m_context.device().currentProfile());
+    m_applied->setText(tr("Device: %1   |   %2")
+                           .arg(device, count ? tr("%n key(s) to apply", nullptr, count)
+                                              : tr("nothing to apply")));
+    m_saved->setText(store.isReadOnly() ? tr("READ ONLY")
+                     : store.isSaved()  ? tr("Saved")
+                                        : tr("NOT SAVED"));
+    if (QAbstractButton *const tab = m_tabs->button(int(ShellPage::Changes)))
+        tab->setText(count ? tr("CHANGES %1").arg(count) : tr("CHANGES"));
+    setWindowTitle(
+        tr("%1%2 - VANTRIX").arg(name, store.isReadOnly() ? tr(" (read only)") : QString()));
+}
+
+void MainWindow::openSettings()
+{
+    SettingsDlg dialog(m_context, this);
+    Modal::exec(&dialog);
+}
+
+void MainWindow::onSettingChanged(const QString &name)
+{
+    if (name == SettingsDlg::languageKey()) {
+        m_context.services().environment().setLanguage(m_context.store().setting(name).toInt());
+        m_mapping->rebuild();
+    } else if (name == HostLocations::hotKeysFolderKey()) {
+        m_mapping->rebuild();
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    ProfileStore &store = m_context.store();
+    store.setSetting(geometryKey(), QString::fromLatin1(saveGeometry().toBase64()));
+    store.setSetting(profileKey(), QString::number(m_context.profile()));
+    store.flush();
+    QMainWindow::closeEvent(event);
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    // While the page captures, every key is meant for it, the window's shortcuts included.
+    if (event->type() == QEvent::ShortcutOverride &&
+        m_context.services().keyCapture().capturing()) {
+        event->accept();
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}

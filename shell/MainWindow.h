@@ -1,0 +1,74 @@
+#pragma once
+
+#include "shell/ShellPages.h"
+
+#include <QMainWindow>
+
+class MappingView;
+class MessageBar;
+class ProfileList;
+class QButtonGroup;
+class QHBoxLayout;
+class QLabel;
+class QStackedWidget;
+
+/// The window of the application: the profiles at the left, the mapping page, and beside it, or in
+/// its place where there is no room for both, one of the other pages. Interface thread.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(ShellContext &context);
+    ~MainWindow() override;
+
+    MappingView *mappingView() const { return m_mapping; }
+    ShellPage shownPage() const { return m_page; }
+    QString statusText() const;
+
+public slots:
+    void showPage(ShellPage page);
+    void undo();
+    void redo();
+    /// Takes steps back or forth until that many are done.
+    void travelTo(int position);
+    void openSettings();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void makeBody();
+    QWidget *makeBar();
+    void addTab(ShellPage page, const QString &title, QHBoxLayout *layout);
+    void makeStatusBar();
+    void makeMenus();
+    void makeEditMenu();
+    void makeViewMenu();
+    void connectContext();
+    void restore();
+    void sayWhatIsPending();
+    void arrange();
+    void follow(const std::optional<StepOutcome> &outcome, const QString &text);
+    void updateSteps();
+    void updateState();
+    void onSettingChanged(const QString &name);
+
+    ShellContext &m_context;
+    std::vector<ShellPages::Entry> m_pages;
+    MessageBar *m_messages;
+    ProfileList *m_profiles;
+    MappingView *m_mapping;
+    QStackedWidget *m_side;
+    QWidget *m_findBar = nullptr;
+    QButtonGroup *m_tabs;
+    QAction *m_undo;
+    QAction *m_redo;
+    QAction *m_capture = nullptr;
+    QLabel *m_status = nullptr;
+    QLabel *m_applied = nullptr;
+    QLabel *m_saved = nullptr;
+    ShellPage m_page = ShellPage::Mapping;
+};

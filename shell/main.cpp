@@ -1,0 +1,173 @@
+#include "host/HostServices.h"
+#include "shell/Headless.h"
+#include "shell/MainWindow.h"
+#include "shell/SettingsDlg.h"
+#include "shell/ShellStyle.h"
+#include "vocabulary/KeyLegends.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+/// What was asked for on the command line.
+struct Options
+{
+    bool isHeadless = false;
+    bool isPrinting = false;
+    QString screenshot;
+    QString dataFolder;
+    int profile = -1; ///< from 0; -1: the one that was shown last
+    int language = -1;
+};
+
+bool hasDisplay()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    return !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+#else
+    return true;
+#endif
+}
+
+bool hasArgument(int argc, char **argv, const char *name)
+{
+    for (int i = 1; i < argc; ++i) {
+        if (!std::strcmp(argv[i], name))
+            return true;
+    }
+    return false;
+}
+
+/// True when the program runs without a display. The platform must be chosen before Qt starts.
+bool choosePlatform(int argc, char **argv)
+{
+    bool isHeadless = hasArgument(argc, argv, "--headless");
+    if (!isHeadless && !hasDisplay()) {
+        QTextStream(stderr) << "There is no display: running headless.\n";
+        isHeadless = true;
+    }
+    if (isHeadless || hasArgument(argc, argv, "--print-profile"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    return isHeadless;
+}
+
+/// Number of a language given by name or number; -1 for none.
+int languageOf(const QString &text)
+{
+    for (const auto &[name, index] : LanguageIndex()) {
+        if (!name.compare(text, Qt::CaseInsensitive))
+            return index;
+    }
+    bool ok = false;
+    const int index = text.toInt(&ok);
+    return ok && index >= 0 && index < LanguageCount ? index : -1;
+}
+
+Options readOptions(bool isHeadless)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QCoreApplication::translate("main", "Says what each key of the pad does."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const auto option = [&parser](const char *name, const char *text, const char *value = "") {
+        parser.addOption(QCommandLineOption(
+            QLatin1String(name), QCoreApplication::translate("main", text), QLatin1String(value)));
+    };
+    option("headless", "Walk the whole road without a display: assign B to key 7 of a profile, "
+                       "apply, and print what the device received. Works on a data folder of its "
+                       "own unless --data names one.");
+    option("screenshot", "With --headless: save the picture of the page.", "file.png");
+    option("data", "Keep everything in this folder instead of the user's.", "folder");
+    option("profile", "Show this profile, 1 to 24.", "number");
+    option("language", "Language of the keys, by name or by number from 0.", "language");
+    option("print-profile", "Print what store and device have of the profile, and leave.");
+    parser.process(*qApp);
+
+    Options options;
+    options.isHeadless = isHeadless;
+    options.isPrinting = parser.isSet(QStringLiteral("print-profile"));
+    options.screenshot = parser.value(QStringLiteral("screenshot"));
+    options.dataFolder = parser.value(QStringLiteral("data"));
+    const QString language = parser.value(QStringLiteral("language"));
+    options.language = languageOf(language);
+    const QString profile = parser.value(QStringLiteral("profile"));
+    if (!profile.isEmpty())
+        options.profile = profile.toInt() - 1;
+    const bool isBadProfile =
+        !profile.isEmpty() && (options.profile < 0 || options.profile >= ProfileCount);
+    if (isBadProfile || (!language.isEmpty() && options.language < 0)) {
+        QTextStream(stderr) << parser.helpText();
+        std::exit(2);
+    }
+    return options;
+}
+
+/// Passes on what Qt has to say, except for what it says about sheets whose text is fixed.
+void writeMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (text.startsWith(QLatin1String("QCssParser::parseColorValue: Specified color without")) ||
+        text.startsWith(QLatin1String("Could not parse stylesheet of object Keyboard(")) ||
+        text.startsWith(QLatin1String("This plugin does not support propagateSizeHints")))
+        return;
+    QTextStream(stderr) << qFormatLogMessage(type, context, text) << '\n';
+    if (type == QtFatalMsg)
+        std::abort();
+}
+
+int runHeadless(Options options)
+{
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    QTemporaryDir folder;
+    if (options.dataFolder.isEmpty() && !options.isPrinting)
+        options.dataFolder = folder.path();
+    HostServices services(options.dataFolder);
+    err << "Data folder: " << services.locations().dataFolder() << '\n';
+    services.environment().setLanguage(options.language);
+    for (const QString &message : services.store().messages())
+        err << message << '\n';
+    const int profile = qMax(0, options.profile);
+    if (options.isPrinting) {
+        Headless::printProfile(services, profile, out);
+        return 0;
+    }
+    return Headless::walk(services, {profile, options.screenshot}, out, err);
+}
+
+int runWindow(const Options &options)
+{
+    HostServices services(options.dataFolder);
+    services.environment().setLanguage(
+        options.language >= 0 ? options.language
+                              : services.store().setting(SettingsDlg::languageKey()).toInt());
+    ShellContext context(services);
+    MainWindow window(context);
+    if (options.profile >= 0)
+        emit context.goTo(options.profile, NoKey);
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const bool isHeadless = choosePlatform(argc, argv);
+    qInstallMessageHandler(writeMessage);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("vantrix"));
+    QApplication::setApplicationVersion(QStringLiteral("1.0.0"));
+    ShellStyle::install();
+    const Options options = readOptions(isHeadless);
+    return isHeadless || options.isPrinting ? runHeadless(options) : runWindow(options);
+}

@@ -50,11 +50,12 @@ void tst_CatalogCheck::init()
 void tst_CatalogCheck::soundCatalog()
 {
     write("APP/MENUS/FILE.txt", Sound + "\t\t\t\t\nMORE\t\tExit\r\n\t\tctrl+q\r\n");
+    write("APP/MENUS/PADDED", "A\tNAME\tX\t\t\n\tKEYS\t1\t\t\n\t\t\t\t\n");
     write("APP/MENUS/EDIT", "EDIT\tNAME\tZOOM IN\n\tKEYS\tCTRL++");
     const CatalogCheck check(m_folder->path());
     QCOMPARE(check.findings(), QStringList());
-    QCOMPARE(check.files(), 2);
-    QCOMPARE(check.hotKeys(), 4);
+    QCOMPARE(check.files(), 3);
+    QCOMPARE(check.hotKeys(), 5);
 }
 
 void tst_CatalogCheck::rows_data()
@@ -80,6 +81,8 @@ void tst_CatalogCheck::rows_data()
                                 << ":1: a second X replaces the first" << 1;
     QTest::newRow("gap") << QByteArray("A\tN\tX\t\tY\n\tK\t1\t2\t3\n")
                          << ":1: no name in column 3: the rest is dropped" << 1;
+    QTest::newRow("keys without a name") << QByteArray("A\tN\tX\t\n\tK\t1\t2\n")
+                                         << ":1: no name in column 3: the rest is dropped" << 1;
     QTest::newRow("no keys") << QByteArray("A\tN\tX\tY\n\tK\t\t1\n") << ":1: X has no keys" << 2;
     QTest::newRow("unknown keys") << QByteArray("A\tN\tX\n\tK\tCTRL+WHEEL\n")
                                   << ":1: X has unknown keys CTRL+WHEEL" << 1;

@@ -175,7 +175,7 @@ void CatalogCheck::checkHotKeys(const Row &names, const Row &keys)
     for (int i = FirstNameColumn; i < names.columns.size(); ++i) {
         const QString name = names.columns.at(i).toUpper();
         if (name.isEmpty()) {
-            find(names.line, QStringLiteral("no name in column %1: the rest is dropped").arg(i));
+            checkRest(names, keys, i);
             break;
         }
         checkHotKey(names.line, name, keys.columns.at(i).toUpper());
@@ -183,6 +183,14 @@ void CatalogCheck::checkHotKeys(const Row &names, const Row &keys)
     m_hotKeys += m_names.size();
     if (m_names.isEmpty())
         find(names.line, QStringLiteral("a group without hot keys"));
+}
+
+/// Empty cells at the end of both rows are what spreadsheets write; text behind a gap is lost.
+void CatalogCheck::checkRest(const Row &names, const Row &keys, int gap)
+{
+    const QStringList rest = names.columns.mid(gap) + keys.columns.mid(gap);
+    if (!rest.join(QString()).isEmpty())
+        find(names.line, QStringLiteral("no name in column %1: the rest is dropped").arg(gap));
 }
 
 void CatalogCheck::checkHotKey(int line, const QString &name, const QString &key)

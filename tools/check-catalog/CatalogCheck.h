@@ -43,6 +43,7 @@ private:
     void checkPair(const Row &names, const Row &keys);
     void checkTitle(const Row &names);
     void checkHotKeys(const Row &names, const Row &keys);
+    void checkRest(const Row &names, const Row &keys, int gap);
     void checkHotKey(int line, const QString &name, const QString &key);
 
     QString m_root;

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
+/// Shows the page, and looks for the catalog as a program in the folder that is named would.
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
@@ -13,5 +14,7 @@ int main(int argc, char **argv)
     page.updateUi(0);
     page.show();
     app.processEvents();
-    return page.isVisible() ? 0 : 1;
+    const QString programs = app.arguments().value(1);
+    const bool hasCatalog = !HostLocations::shareFolderOf(programs).isEmpty();
+    return page.isVisible() && hasCatalog ? 0 : 1;
 }

@@ -1,6 +1,5 @@
 #include "dualaction/ActionAssignWid.h"
 
-#include "interfaces/Modal.h"
 #include "ui_ActionAssignUi.h"
 
 ActionAssignWid::ActionAssignWid(QWidget *parent) : QWidget(parent), m_ui(new Ui::ActionAssignUi)
@@ -14,20 +13,9 @@ ActionAssignWid::ActionAssignWid(QWidget *parent) : QWidget(parent), m_ui(new Ui
             &ActionAssignWid::slotDualActionChanged);
     connect(m_ui->m_back, &QPushButton::clicked, this, &ActionAssignWid::slotBack);
     connect(m_ui->m_apply, &QPushButton::clicked, this, &ActionAssignWid::slotApply);
-    connect(Modal::instance(), &Modal::opening, this, [this] {
-        if (m_capturing)
-            m_ui->m_keyboard->setKeyCapture(false);
-    });
-    connect(Modal::instance(), &Modal::closed, this, [this] {
-        if (m_capturing)
-            m_ui->m_keyboard->setKeyCapture(true);
-    });
 }
 
-ActionAssignWid::~ActionAssignWid()
-{
-    setKeyCapture(false);
-}
+ActionAssignWid::~ActionAssignWid() = default;
 
 void ActionAssignWid::openOverlay(int actionNo, int inputType, QString strAction)
 {
@@ -36,7 +24,7 @@ void ActionAssignWid::openOverlay(int actionNo, int inputType, QString strAction
     m_ui->m_map->setCurrentIndex(inputType);
     show();
     raise();
-    setKeyCapture(inputType == InputType::Keyboard);
+    m_ui->m_keyboard->setKeyCapture(inputType == InputType::Keyboard);
 }
 
 void ActionAssignWid::resetOverlay()
@@ -48,7 +36,7 @@ void ActionAssignWid::resetOverlay()
 
 void ActionAssignWid::closeOverlay()
 {
-    setKeyCapture(false);
+    m_ui->m_keyboard->setKeyCapture(false);
     hide();
 }
 
@@ -59,22 +47,14 @@ void ActionAssignWid::slotDualActionChanged(vantrix_key_mapping key)
 
 void ActionAssignWid::slotBack()
 {
-    setKeyCapture(false);
+    m_ui->m_keyboard->setKeyCapture(false);
     emit sigDualActionBack();
     hide();
 }
 
 void ActionAssignWid::slotApply()
 {
-    setKeyCapture(false);
+    m_ui->m_keyboard->setKeyCapture(false);
     emit sigDualActionApply();
     hide();
-}
-
-void ActionAssignWid::setKeyCapture(bool on)
-{
-    if (m_capturing == on)
-        return;
-    m_capturing = on;
-    m_ui->m_keyboard->setKeyCapture(on);
 }

@@ -15,7 +15,7 @@ class ActionAssignUi;
 ///
 /// One overlay serves both actions; it remembers for which it is open. It opens with
 /// `openOverlay` and closes only with BACK or APPLY. While it is open on the keyboard page it
-/// holds the keyboard, save while something modal is up. It is a child of the main widget and may
+/// holds the keyboard, as KeyboardWid tells. It is a child of the main widget and may
 /// be destroyed before its owner.
 class ActionAssignWid : public QWidget
 {
@@ -44,9 +44,6 @@ private slots:
     void slotApply();
 
 private:
-    void setKeyCapture(bool on);
-
     const std::unique_ptr<Ui::ActionAssignUi> m_ui;
     int m_actionNo = 0;
-    bool m_capturing = false;
 };

@@ -122,6 +122,9 @@ void DualActionWid::slotActionAssigned(int actionNo, int inputType, QString strA
 {
     if (!m_overlay)
         createOverlay();
+    // Without a main widget there is nothing to lie over.
+    if (!m_overlay->parentWidget())
+        return;
     fitOverlay();
     emit sigGetVantrixMask(m_overlay->parentWidget());
     m_overlay->openOverlay(actionNo, inputType, strAction);

@@ -45,7 +45,6 @@ void ReassignDlg::buildInputs()
         auto *button = new QPushButton(tr(inputTypeName(input)), m_ui->left_widget);
         button->setObjectName(QStringLiteral("input_%1").arg(input));
         button->setCheckable(true);
-        button->setAutoDefault(false);
         button->setStyleSheet(
             QStringLiteral("QPushButton{background:rgb(25,25,25);border:none;min-height:25px;font-"
                            "size:12px;}:hover{background:rgb(81,81,81);}:checked{background:rgb("

@@ -96,6 +96,9 @@ void OstraMenu::hideEvent(QHideEvent *event)
 {
     qApp->removeEventFilter(this);
     closeMenusBut(nullptr);
+    // A menu that went with its window does not come back with it.
+    if (!isHidden())
+        hide();
     QWidget::hideEvent(event);
 }
 

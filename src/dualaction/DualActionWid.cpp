@@ -39,6 +39,9 @@ DualActionWid::~DualActionWid()
 void DualActionWid::createOverlay()
 {
     QWidget *const mainWid = IEnvironment::Instance()->getMainWidget();
+    // Without a main widget there is nothing to lie over.
+    if (!mainWid)
+        return;
     m_overlay = new ActionAssignWid(mainWid);
     connect(m_overlay, &ActionAssignWid::sigDualActionBack, this,
             &DualActionWid::sigDualActionBack);
@@ -47,8 +50,7 @@ void DualActionWid::createOverlay()
     connect(m_overlay, &ActionAssignWid::sigDualActionChanged, this,
             &DualActionWid::slotDualActionChanged);
     m_overlay->hide();
-    if (mainWid)
-        mainWid->installEventFilter(this);
+    mainWid->installEventFilter(this);
 }
 
 void DualActionWid::resetPanel()
@@ -103,7 +105,7 @@ void DualActionWid::hideEvent(QHideEvent *event)
 
 void DualActionWid::fitOverlay()
 {
-    if (!m_overlay || !m_overlay->parentWidget())
+    if (!m_overlay)
         return;
     m_overlay->setFixedSize(m_overlay->parentWidget()->size());
     if (m_overlay->isVisible()) {
@@ -122,8 +124,7 @@ void DualActionWid::slotActionAssigned(int actionNo, int inputType, QString strA
 {
     if (!m_overlay)
         createOverlay();
-    // Without a main widget there is nothing to lie over.
-    if (!m_overlay->parentWidget())
+    if (!m_overlay)
         return;
     fitOverlay();
     emit sigGetVantrixMask(m_overlay->parentWidget());

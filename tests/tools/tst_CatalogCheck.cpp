@@ -72,7 +72,7 @@ void tst_CatalogCheck::rows_data()
     QTest::newRow("odd row at the end") << Sound + "A\tN\tX\n"
                                         << ":3: a row without a partner" << 2;
     QTest::newRow("title twice") << Sound + part + "File\tN\tX\n\tK\tX\n"
-                                 << ":4: a second group FILE replaces the first" << 3;
+                                 << ":4: a second group FILE replaces the first" << 1;
     QTest::newRow("blanks at title")
         << QByteArray("A \tN\tX\n\tK\tX\n") << ":1: blanks around the title A " << 1;
     QTest::newRow("blanks at name")
@@ -81,7 +81,9 @@ void tst_CatalogCheck::rows_data()
                                 << ":1: a second X replaces the first" << 1;
     QTest::newRow("gap") << QByteArray("A\tN\tX\t\tY\n\tK\t1\t2\t3\n")
                          << ":1: no name in column 3: the rest is dropped" << 1;
-    QTest::newRow("keys without a name") << QByteArray("A\tN\tX\t\n\tK\t1\t2\n")
+    QTest::newRow("tab at the end") << QByteArray("A\tN\tX\t\n\tK\t1\t\n")
+                                    << ":1: the last column makes a hot key without a name" << 2;
+    QTest::newRow("keys without a name") << QByteArray("A\tN\tX\t\t\n\tK\t1\t2\t\n")
                                          << ":1: no name in column 3: the rest is dropped" << 1;
     QTest::newRow("no keys") << QByteArray("A\tN\tX\tY\n\tK\t\t1\n") << ":1: X has no keys" << 2;
     QTest::newRow("unknown keys") << QByteArray("A\tN\tX\n\tK\tCTRL+WHEEL\n")

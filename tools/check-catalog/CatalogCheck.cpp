@@ -1,5 +1,6 @@
 #include "CatalogCheck.h"
 
+#include "application/HotKeyFile.h"
 #include "host/DeviceImage.h"
 
 #include <QDir>
@@ -23,6 +24,14 @@ bool isHiddenOrLink(const QFileInfo &entry)
 bool isSeparator(const QString &line)
 {
     return line.startsWith(QLatin1String("\t\t\t\t"));
+}
+
+int countOf(const HotKeyMap &hotKeys)
+{
+    std::size_t count = 0;
+    for (const auto &group : hotKeys)
+        count += group.second.size();
+    return int(count);
 }
 
 } // namespace
@@ -93,14 +102,22 @@ void CatalogCheck::checkArea(const QDir &folder)
 
 void CatalogCheck::checkFile(const QFileInfo &file)
 {
+    ++m_files;
+    HotKeyMap shown;
     QFile source(file.filePath());
-    if (!source.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        find(QStringLiteral("cannot be opened"));
+    if (!source.open(QIODevice::ReadOnly | QIODevice::Text) ||
+        !HotKeyFile::read(file.filePath(), shown, [] { return false; })) {
+        find(QStringLiteral("cannot be read, or is too large"));
         return;
     }
-    ++m_files;
     m_titles.clear();
+    m_written = 0;
+    const int findings = m_findings.size();
     checkRows(source.readAll());
+    const int count = countOf(shown);
+    if (count != m_written && m_findings.size() == findings)
+        find(QStringLiteral("the page shows %1 hot keys of %2").arg(count).arg(m_written));
+    m_hotKeys += count;
 }
 
 /// The page's reading of a line: UTF-8 up to the first NUL.
@@ -180,16 +197,19 @@ void CatalogCheck::checkHotKeys(const Row &names, const Row &keys)
         }
         checkHotKey(names.line, name, keys.columns.at(i).toUpper());
     }
-    m_hotKeys += m_names.size();
+    m_written += m_names.size();
     if (m_names.isEmpty())
         find(names.line, QStringLiteral("a group without hot keys"));
 }
 
-/// Empty cells at the end of both rows are what spreadsheets write; text behind a gap is lost.
+/// Spreadsheets pad rows with empty cells. Two or more are harmless; one alone at the end of a
+/// row keeps the line end, and the page takes that for a name.
 void CatalogCheck::checkRest(const Row &names, const Row &keys, int gap)
 {
     const QStringList rest = names.columns.mid(gap) + keys.columns.mid(gap);
-    if (!rest.join(QString()).isEmpty())
+    if (gap == names.columns.size() - 1)
+        find(names.line, QStringLiteral("the last column makes a hot key without a name"));
+    else if (!rest.join(QString()).isEmpty())
         find(names.line, QStringLiteral("no name in column %1: the rest is dropped").arg(gap));
 }
 

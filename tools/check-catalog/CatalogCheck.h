@@ -8,7 +8,8 @@ class QDir;
 class QFileInfo;
 
 /// Reads a whole hot-key catalog as strictly as the page reads it leniently, and says in words
-/// what the page would drop, hide or be unable to play.
+/// what the page would drop, hide or be unable to play. The page's own reader reads each file,
+/// too: its hot keys are those that are counted.
 ///
 /// The page takes `APPLICATION/AREA/FILE` and in each file pairs of rows of equal length, parted
 /// by a row of four tabs: group title, anything, names; anything, anything, keys. It reports
@@ -53,5 +54,6 @@ private:
     QSet<QString> m_keys;
     QStringList m_findings;
     int m_files = 0;
+    int m_written = 0; ///< hot keys in the file, as the check counts them
     int m_hotKeys = 0;
 };

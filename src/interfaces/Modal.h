@@ -15,7 +15,7 @@ class QDialog;
 /// What a modal thing asks. `dialog` is set for dialogs of one's own only.
 struct VANTRIX_EXPORT ModalPrompt
 {
-    enum Kind { Warning, Question, OpenFile, Dialog };
+    enum Kind { Warning, Question, OpenFile, SaveFile, Dialog };
 
     Kind kind = Dialog;
     QPointer<QWidget> parent;
@@ -49,6 +49,9 @@ public:
     static int question(QWidget *parent, const QString &title, const QString &text);
     /// Asks for a file that exists; empty if the user thought better of it.
     static QString openFileName(QWidget *parent, const QString &title, const QString &dir,
+                                const QString &filter);
+    /// Asks where to write a file, starting from `file`; empty if the user thought better of it.
+    static QString saveFileName(QWidget *parent, const QString &title, const QString &file,
                                 const QString &filter);
 
 signals:

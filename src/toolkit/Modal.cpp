@@ -72,3 +72,17 @@ QString Modal::openFileName(QWidget *parent, const QString &title, const QString
     };
     return instance()->ask(prompt, user).toString();
 }
+
+QString Modal::saveFileName(QWidget *parent, const QString &title, const QString &file,
+                            const QString &filter)
+{
+    ModalPrompt prompt;
+    prompt.kind = ModalPrompt::SaveFile;
+    prompt.parent = parent;
+    prompt.title = title;
+    prompt.text = filter;
+    const auto user = [&] {
+        return QFileDialog::getSaveFileName(parent, title, file, filter);
+    };
+    return instance()->ask(prompt, user).toString();
+}

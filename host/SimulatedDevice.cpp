@@ -26,25 +26,6 @@ RecordId imageId(int owner, int profile)
     return profileRecord(StoreTable::DeviceImage, owner, profile);
 }
 
-/// Profile that a code leads to from `current`; -1 for a code that leads nowhere.
-int profileOfCode(ushort code, int current)
-{
-    if (code >= FirstProfile && code <= LastProfile)
-        return code - FirstProfile;
-    switch (code) {
-    case ProfileUp:
-        return std::min(current + 1, ProfileCount - 1);
-    case ProfileDown:
-        return std::max(current - 1, 0);
-    case CycleUp:
-        return (current + 1) % ProfileCount;
-    case CycleDown:
-        return (current + ProfileCount - 1) % ProfileCount;
-    default:
-        return -1;
-    }
-}
-
 /// The codes that go down for a code: those of a pseudo code, else itself.
 std::vector<ushort> expand(ushort code)
 {
@@ -155,6 +136,24 @@ void SimulatedDevice::setCurrentProfile(int owner, int profile)
 {
     setNumber("owner", owner);
     setNumber("profile", profile);
+}
+
+int SimulatedDevice::profileOfCode(ushort code, int current)
+{
+    if (code >= FirstProfile && code <= LastProfile)
+        return code - FirstProfile;
+    switch (code) {
+    case ProfileUp:
+        return std::min(current + 1, ProfileCount - 1);
+    case ProfileDown:
+        return std::max(current - 1, 0);
+    case CycleUp:
+        return (current + 1) % ProfileCount;
+    case CycleDown:
+        return (current + ProfileCount - 1) % ProfileCount;
+    default:
+        return -1;
+    }
 }
 
 bool SimulatedDevice::isPressureEnabled() const

@@ -81,6 +81,8 @@ public:
     int currentOwner() const;
     int currentProfile() const;
     void setCurrentProfile(int owner, int profile);
+    /// Profile that a code leads to from `current`; -1 for a code that leads nowhere.
+    static int profileOfCode(ushort code, int current);
 
     /// Pressure sensing, as switched by the page's command 23.
     bool isPressureEnabled() const;

@@ -1,7 +1,14 @@
 #include "shell/ShellPages.h"
 
+#include "interfaces/Modal.h"
 #include "shell/ChangesPage.h"
+#include "shell/CheckPage.h"
+#include "shell/DeviceView.h"
+#include "shell/ExportDlg.h"
+#include "shell/FindBar.h"
 #include "shell/HistoryPage.h"
+#include "shell/ImportDlg.h"
+#include "shell/MacroPage.h"
 
 #include <QCoreApplication>
 #include <QMenu>
@@ -16,12 +23,35 @@ std::vector<ShellPages::Entry> ShellPages::make(ShellContext &context, QWidget *
          new ChangesPage(context, parent)},
         {ShellPage::History, title(QT_TRANSLATE_NOOP("ShellPages", "HISTORY")),
          new HistoryPage(context, parent)},
+        {ShellPage::Macros, title(QT_TRANSLATE_NOOP("ShellPages", "MACROS")),
+         new MacroPage(context, parent)},
+        {ShellPage::Device, title(QT_TRANSLATE_NOOP("ShellPages", "DEVICE")),
+         new DeviceView(context, parent)},
+        {ShellPage::Check, title(QT_TRANSLATE_NOOP("ShellPages", "CHECK")),
+         new CheckPage(context, parent)},
     };
 }
 
-QWidget *ShellPages::makeFindBar(ShellContext &, QWidget *)
+QWidget *ShellPages::makeFindBar(ShellContext &context, QWidget *parent)
 {
-    return nullptr;
+    return new FindBar(context, parent);
 }
 
-void ShellPages::addFileActions(QMenu *, ShellContext &, QWidget *) {}
+void ShellPages::addFileActions(QMenu *menu, ShellContext &context, QWidget *window)
+{
+    const auto add = [&](const char *name, const char *text, auto open) {
+        QAction *const action =
+            menu->addAction(QCoreApplication::translate("ShellPages", text), window, open);
+        action->setObjectName(QLatin1String(name));
+    };
+    add("m_importAction", QT_TRANSLATE_NOOP("ShellPages", "Import profiles..."),
+        [&context, window] {
+            ImportDlg dialog(context, window);
+            Modal::exec(&dialog);
+        });
+    add("m_exportAction", QT_TRANSLATE_NOOP("ShellPages", "Export profiles..."),
+        [&context, window] {
+            ExportDlg dialog(context, window);
+            Modal::exec(&dialog);
+        });
+}

@@ -1,0 +1,23 @@
+#include "shell/KeyCombo.h"
+
+#include "shell/MacroEventModel.h"
+
+#include <QCompleter>
+
+KeyCombo::KeyCombo(QWidget *parent) : QComboBox(parent)
+{
+    setEditable(true);
+    setInsertPolicy(QComboBox::NoInsert);
+    setMaxVisibleItems(16);
+    setAccessibleName(tr("Key"));
+    for (const ushort code : MacroEventModel::codes())
+        addItem(MacroEventModel::keyName(code), code);
+    completer()->setFilterMode(Qt::MatchContains);
+    completer()->setCompletionMode(QCompleter::PopupCompletion);
+}
+
+int KeyCombo::code() const
+{
+    const int row = findText(currentText().trimmed(), Qt::MatchFixedString);
+    return row < 0 ? 0 : itemData(row).toInt();
+}

@@ -49,7 +49,7 @@ int keyOf(const QTreeWidgetItem *item)
 
 ChangesPage::ChangesPage(ShellContext &context, QWidget *parent)
     : QWidget(parent), m_context(context), m_summary(new QLabel(this)),
-      m_putBack(new QPushButton(tr("Put Back"), this)),
+      m_changes(new QWidget(this)), m_putBack(new QPushButton(tr("Put Back"), this)),
       m_putBackAll(new QPushButton(tr("Put All Back"), this)),
       m_apply(new QPushButton(tr("Apply"), this)), m_deviceLab(new QLabel(this))
 {
@@ -60,6 +60,7 @@ ChangesPage::ChangesPage(ShellContext &context, QWidget *parent)
     m_putBack->setObjectName(QStringLiteral("m_putBackBtn"));
     m_putBackAll->setObjectName(QStringLiteral("m_putBackAllBtn"));
     m_apply->setObjectName(QStringLiteral("m_applyChangesBtn"));
+    m_apply->setStyleSheet(ShellStyle::primarySheet());
     m_deviceLab->setStyleSheet(ShellStyle::headingSheet());
     m_pending = addTree("m_pendingTree", {tr("Key"), tr("The device has"), tr("APPLY makes it")});
     m_pending->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -70,12 +71,10 @@ ChangesPage::ChangesPage(ShellContext &context, QWidget *parent)
     buttons->addWidget(m_putBackAll);
     buttons->addStretch();
     buttons->addWidget(m_apply);
-    auto *top = new QWidget(this);
-    auto *topLayout = new QVBoxLayout(top);
-    topLayout->setContentsMargins(0, 0, 0, 6);
-    topLayout->addWidget(m_summary);
-    topLayout->addWidget(m_pending, 1);
-    topLayout->addLayout(buttons);
+    auto *changesLayout = new QVBoxLayout(m_changes);
+    changesLayout->setContentsMargins(0, 0, 0, 6);
+    changesLayout->addWidget(m_pending, 1);
+    changesLayout->addLayout(buttons);
     auto *bottom = new QWidget(this);
     auto *bottomLayout = new QVBoxLayout(bottom);
     bottomLayout->setContentsMargins(0, 6, 0, 0);
@@ -83,10 +82,11 @@ ChangesPage::ChangesPage(ShellContext &context, QWidget *parent)
     bottomLayout->addWidget(m_device, 1);
     auto *splitter = new QSplitter(Qt::Vertical, this);
     splitter->setChildrenCollapsible(false);
-    splitter->addWidget(top);
+    splitter->addWidget(m_changes);
     splitter->addWidget(bottom);
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(splitter);
+    layout->addWidget(m_summary);
+    layout->addWidget(splitter, 1);
 
     connect(m_pending, &QTreeWidget::itemSelectionChanged, this, &ChangesPage::enableButtons);
     connect(m_putBack, &QPushButton::clicked, this, &ChangesPage::putBackSelected);
@@ -141,9 +141,11 @@ void ChangesPage::refresh()
     fillPending();
     fillDevice();
     const int count = m_pending->topLevelItemCount();
-    m_summary->setText(count ? tr("APPLY changes %n key(s) of %1:", nullptr, count).arg(name)
-                             : tr("The device has %1 as it is shown.").arg(name));
+    m_summary->setText(count == 0   ? tr("The device has %1 as it is shown.").arg(name)
+                       : count == 1 ? tr("APPLY changes one key of %1:").arg(name)
+                                    : tr("APPLY changes %1 keys of %2:").arg(count).arg(name));
     m_deviceLab->setText(tr("ON THE DEVICE: %1").arg(name));
+    m_changes->setVisible(count > 0);
     enableButtons();
 }
 

@@ -35,6 +35,7 @@ private:
 
     ShellContext &m_context;
     QLabel *m_summary;
+    QWidget *m_changes;
     QTreeWidget *m_pending = nullptr;
     QTreeWidget *m_device = nullptr;
     QPushButton *m_putBack;

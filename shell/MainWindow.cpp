@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolButton>
@@ -26,7 +27,8 @@ namespace {
 /// Width of the room right of the profiles from which both pages fit.
 constexpr int RoomForBoth = 1180;
 constexpr int SideWidth = 430;
-constexpr int ProfilesWidth = 216;
+/// Width of the window below which the profiles are a strip of numbers.
+constexpr int RoomForNames = 1180;
 constexpr QSize InitialSize(1280, 900);
 constexpr QSize MinimumSize(900, 600);
 
@@ -51,7 +53,7 @@ MainWindow::MainWindow(ShellContext &context)
     : m_context(context), m_messages(new MessageBar(this)),
       m_profiles(new ProfileList(context, this)), m_mapping(new MappingView(context, this)),
       m_side(new QStackedWidget(this)), m_tabs(new QButtonGroup(this)), m_undo(new QAction(this)),
-      m_redo(new QAction(this))
+      m_redo(new QAction(this)), m_shown(new QLabel(this))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setMinimumSize(MinimumSize);
@@ -74,7 +76,6 @@ MainWindow::~MainWindow()
 void MainWindow::makeBody()
 {
     auto *body = new QWidget(this);
-    m_profiles->setFixedWidth(ProfilesWidth);
     m_side->setObjectName(QStringLiteral("m_sidePages"));
     m_pages = ShellPages::make(m_context, m_side);
     for (const ShellPages::Entry &entry : m_pages)
@@ -112,10 +113,14 @@ QWidget *MainWindow::makeBar()
     auto *tabLayout = new QHBoxLayout(tabs);
     tabLayout->setContentsMargins(0, 0, 0, 0);
     tabLayout->setSpacing(2);
+    m_shown->setObjectName(QStringLiteral("m_shownLab"));
+    m_shown->setContentsMargins(4, 0, 10, 0);
+    m_shown->setTextFormat(Qt::PlainText);
     m_tabs->setExclusive(true);
     addTab(ShellPage::Mapping, tr("MAPPING"), tabLayout);
     for (const ShellPages::Entry &entry : m_pages)
         addTab(entry.page, entry.title, tabLayout);
+    layout->addWidget(m_shown);
     layout->addWidget(tabs);
     layout->addStretch(1);
     m_findBar = ShellPages::makeFindBar(m_context, bar);
@@ -203,6 +208,11 @@ void MainWindow::makeEditMenu()
 void MainWindow::makeViewMenu()
 {
     QMenu *const view = menuBar()->addMenu(tr("&View"));
+    m_names = view->addAction(tr("Profile &Names"), this, &MainWindow::arrange,
+                              QKeySequence(Qt::CTRL + Qt::Key_B));
+    m_names->setCheckable(true);
+    m_names->setChecked(true);
+    view->addSeparator();
     int number = 0;
     for (QAbstractButton *tab : m_tabs->buttons()) {
         const ShellPage page = ShellPage(m_tabs->id(tab));
@@ -253,6 +263,7 @@ void MainWindow::restore()
     m_mapping->showProfile(profile, key);
     updateSteps();
     sayWhatIsPending();
+    m_isRestored = true;
 }
 
 void MainWindow::sayWhatIsPending()
@@ -263,8 +274,9 @@ void MainWindow::sayWhatIsPending()
         if (m_context.device().differs(m_context.owner(), profile))
             names << state.profileName(m_context.owner(), profile);
     }
-    m_status->setText(names.isEmpty() ? tr("Everything is on the device.")
-                                      : tr("Not on the device yet: %1.").arg(names.join(tr(", "))));
+    m_firstStatus = names.isEmpty() ? tr("Everything is on the device.")
+                                    : tr("Not on the device yet: %1.").arg(names.join(tr(", ")));
+    m_status->setText(m_firstStatus);
 }
 
 // ---- pages ----
@@ -285,20 +297,24 @@ void MainWindow::showPage(ShellPage page)
 
 void MainWindow::arrange()
 {
-    const bool hasRoom = width() - ProfilesWidth >= RoomForBoth;
+    m_profiles->setCompact(!m_names->isChecked());
+    m_shown->setVisible(m_profiles->isCompact());
+    const int room = width() - m_profiles->maximumWidth();
+    const bool hasRoom = room >= RoomForBoth;
     const bool isSide = m_page != ShellPage::Mapping;
     m_side->setVisible(isSide);
     m_mapping->setVisible(hasRoom || !isSide);
-    if (hasRoom)
-        m_side->setFixedWidth(qMax(SideWidth, (width() - ProfilesWidth) / 3));
-    else
-        m_side->setFixedWidth(QWIDGETSIZE_MAX);
-    m_side->setMinimumWidth(hasRoom ? m_side->minimumWidth() : 0);
+    m_side->setMinimumWidth(hasRoom ? qMax(SideWidth, room / 3) : 0);
+    m_side->setMaximumWidth(hasRoom ? m_side->minimumWidth() : QWIDGETSIZE_MAX);
 }
 
 void MainWindow::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
+    const bool hadNames = event->oldSize().width() >= RoomForNames;
+    const bool hasNames = width() >= RoomForNames;
+    if (hadNames != hasNames)
+        m_names->setChecked(hasNames);
     arrange();
 }
 
@@ -347,6 +363,9 @@ void MainWindow::updateSteps()
     m_undo->setIconText(QStringLiteral("↶"));
     m_redo->setIconText(QStringLiteral("↷"));
     m_undo->setToolTip(tr("Undo %1 (Ctrl+Z)").arg(store.undoName()));
+    // What was said at the start does not hold for long.
+    if (store.canUndo() && m_status->text() == m_firstStatus && m_isRestored)
+        m_status->setText(store.undoName());
     m_redo->setToolTip(tr("Redo %1 (Ctrl+Shift+Z)").arg(store.redoName()));
 }
 
@@ -365,9 +384,11 @@ void MainWindow::updateState()
     const int count = int(m_context.device().pending(owner, m_context.profile()).size());
     const QString device = store.state().profileName(m_context.device().currentOwner(),
                                                      m_context.device().currentProfile());
-    m_applied->setText(tr("Device: %1   |   %2")
-                           .arg(device, count ? tr("%n key(s) to apply", nullptr, count)
-                                              : tr("nothing to apply")));
+    const QString pending = count == 0   ? tr("nothing to apply")
+                            : count == 1 ? tr("1 key to apply")
+                                         : tr("%1 keys to apply").arg(count);
+    m_applied->setText(tr("Device: %1   |   %2   |").arg(device, pending));
+    m_shown->setText(name);
     m_saved->setText(store.isReadOnly() ? tr("READ ONLY")
                      : store.isSaved()  ? tr("Saved")
                                         : tr("NOT SAVED"));

@@ -66,9 +66,13 @@ private:
     QButtonGroup *m_tabs;
     QAction *m_undo;
     QAction *m_redo;
+    QLabel *m_shown;
     QAction *m_capture = nullptr;
+    QAction *m_names = nullptr;
     QLabel *m_status = nullptr;
     QLabel *m_applied = nullptr;
     QLabel *m_saved = nullptr;
+    QString m_firstStatus;
+    bool m_isRestored = false;
     ShellPage m_page = ShellPage::Mapping;
 };

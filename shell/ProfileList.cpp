@@ -21,6 +21,10 @@ enum Role { ProfileRole = Qt::UserRole, DirtyRole, OnDeviceRole, MarkedRole };
 
 constexpr int RowHeight = 32;
 constexpr int NumberWidth = 30;
+constexpr int FullWidth = 216;
+constexpr int CompactWidth = 60;
+/// Narrowest row that shows a name.
+constexpr int NameRowWidth = 120;
 constexpr int MaxNameLength = 40;
 
 /// A row: number, name, what the device has.
@@ -43,24 +47,16 @@ public:
             painter->setPen(QPen(ShellStyle::warning(), 2));
             painter->drawRoundedRect(option.rect.adjusted(2, 2, -2, -2), 4, 4);
         }
-        QRect rest = option.rect.adjusted(0, 0, -8, 0);
-        paintState(painter, option, index, rest);
-        painter->setFont(option.font);
-        painter->setPen(isShown ? ShellStyle::text() : ShellStyle::dim());
-        painter->drawText(rest.left(), rest.top(), NumberWidth, rest.height(),
-                          Qt::AlignRight | Qt::AlignVCenter,
-                          QString::number(index.data(ProfileRole).toInt() + 1));
-        rest.setLeft(rest.left() + NumberWidth + 10);
-        painter->setPen(ShellStyle::text());
-        const QString name =
-            option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, rest.width());
-        painter->drawText(rest, Qt::AlignLeft | Qt::AlignVCenter, name);
+        if (option.rect.width() < NameRowWidth)
+            paintNumber(painter, option, index);
+        else
+            paintRow(painter, option, index);
         painter->restore();
     }
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const override
     {
-        return {100, qMax(RowHeight, option.fontMetrics.height() + 12)};
+        return {40, qMax(RowHeight, option.fontMetrics.height() + 12)};
     }
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &,
@@ -73,15 +69,52 @@ public:
     }
 
 private:
-    /// Paints the marks at the right end and takes their room from `rest`.
-    void paintState(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index,
-                    QRect &rest) const
+    static void paintDirty(QPainter *painter, const QPointF &center)
     {
-        if (index.data(DirtyRole).toBool()) {
-            painter->setPen(Qt::NoPen);
-            painter->setBrush(ShellStyle::warning());
-            painter->drawEllipse(QPointF(rest.right() - 4, rest.center().y() + 1), 4, 4);
-        }
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(ShellStyle::warning());
+        painter->drawEllipse(center, 4, 4);
+    }
+
+    /// The row of a strip: a number, in a frame if the device acts by the profile.
+    static void paintNumber(QPainter *painter, const QStyleOptionViewItem &option,
+                            const QModelIndex &index)
+    {
+        QRect frame(0, 0, 28, 22);
+        frame.moveCenter(option.rect.center() - QPoint(4, 0));
+        painter->setPen(ShellStyle::text());
+        if (index.data(OnDeviceRole).toBool())
+            painter->drawRoundedRect(frame, 4, 4);
+        painter->drawText(frame, Qt::AlignCenter,
+                          QString::number(index.data(ProfileRole).toInt() + 1));
+        if (index.data(DirtyRole).toBool())
+            paintDirty(painter, QPointF(option.rect.right() - 7, option.rect.center().y() + 1));
+    }
+
+    static void paintRow(QPainter *painter, const QStyleOptionViewItem &option,
+                         const QModelIndex &index)
+    {
+        const bool isShown = option.state & QStyle::State_Selected;
+        QRect rest = option.rect.adjusted(0, 0, -8, 0);
+        paintState(painter, option, index, rest);
+        painter->setFont(option.font);
+        painter->setPen(isShown ? ShellStyle::text() : ShellStyle::dim());
+        painter->drawText(rest.left(), rest.top(), NumberWidth, rest.height(),
+                          Qt::AlignRight | Qt::AlignVCenter,
+                          QString::number(index.data(ProfileRole).toInt() + 1));
+        rest.setLeft(rest.left() + NumberWidth + 10);
+        painter->setPen(ShellStyle::text());
+        const QString name =
+            option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, rest.width());
+        painter->drawText(rest, Qt::AlignLeft | Qt::AlignVCenter, name);
+    }
+
+    /// Paints the marks at the right end and takes their room from `rest`.
+    static void paintState(QPainter *painter, const QStyleOptionViewItem &option,
+                           const QModelIndex &index, QRect &rest)
+    {
+        if (index.data(DirtyRole).toBool())
+            paintDirty(painter, QPointF(rest.right() - 4, rest.center().y() + 1));
         rest.setRight(rest.right() - 16);
         if (!index.data(OnDeviceRole).toBool())
             return;
@@ -102,7 +135,8 @@ private:
 } // namespace
 
 ProfileList::ProfileList(ShellContext &context, QWidget *parent)
-    : QWidget(parent), m_context(context), m_list(new QListWidget(this))
+    : QWidget(parent), m_context(context), m_heading(new QLabel(tr("PROFILES"), this)),
+      m_list(new QListWidget(this)), m_buttons(makeButtons())
 {
     setObjectName(QStringLiteral("m_profileList"));
     setStyleSheet(ShellStyle::panelSheet());
@@ -112,11 +146,22 @@ ProfileList::ProfileList(ShellContext &context, QWidget *parent)
     m_list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setMouseTracking(true);
+    m_heading->setStyleSheet(ShellStyle::headingSheet());
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_heading);
+    layout->addWidget(m_list, 1);
+    layout->addWidget(m_buttons);
+    setCompact(false);
+    connectAll();
+    refresh();
+}
 
-    auto *heading = new QLabel(tr("PROFILES"), this);
-    heading->setStyleSheet(ShellStyle::headingSheet());
-    auto *buttons = new QHBoxLayout;
-    buttons->setSpacing(4);
+QWidget *ProfileList::makeButtons()
+{
+    auto *buttons = new QWidget(this);
+    auto *layout = new QHBoxLayout(buttons);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
     QToolButton *const copy =
         addButton(tr("Copy"), tr("Copy this profile over another one"), "m_duplicateBtn");
     auto *targets = new QMenu(copy);
@@ -129,34 +174,41 @@ ProfileList::ProfileList(ShellContext &context, QWidget *parent)
     QToolButton *const down =
         addButton(QStringLiteral("▼"), tr("Move down (Alt+Down)"), "m_downBtn");
     for (QToolButton *button : {copy, empty, up, down})
-        buttons->addWidget(button);
-    buttons->insertStretch(2);
+        layout->addWidget(button);
+    layout->insertStretch(2);
     connect(empty, &QToolButton::clicked, this, &ProfileList::clear);
     connect(up, &QToolButton::clicked, this, &ProfileList::moveUp);
     connect(down, &QToolButton::clicked, this, &ProfileList::moveDown);
+    return buttons;
+}
 
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(10, 10, 6, 10);
-    layout->addWidget(heading);
-    layout->addWidget(m_list, 1);
-    layout->addLayout(buttons);
-
-    ProfileStore &store = context.store();
+void ProfileList::connectAll()
+{
+    ProfileStore &store = m_context.store();
     connect(m_list, &QListWidget::currentRowChanged, this, &ProfileList::onRowChanged);
     connect(m_list, &QListWidget::itemChanged, this, &ProfileList::onEdited);
     connect(&store, &ProfileStore::profileListChanged, this, &ProfileList::refresh);
-    connect(&store, &ProfileStore::profileChanged, this, &ProfileList::refresh);
+    connect(&store, &ProfileStore::profileChanged, this, &ProfileList::refreshProfile);
     connect(&store, &ProfileStore::macrosChanged, this, &ProfileList::refresh);
     connect(&store, &ProfileStore::deviceChanged, this, &ProfileList::refresh);
-    connect(&context, &ShellContext::profileShown, this, &ProfileList::refresh);
-    connect(&context, &ShellContext::keysMarked, this,
+    connect(&m_context, &ShellContext::profileShown, this, &ProfileList::refresh);
+    connect(&m_context, &ShellContext::keysMarked, this,
             [this](const std::set<std::pair<int, int>> &keys) {
                 std::set<int> profiles;
                 for (const auto &key : keys)
                     profiles.insert(key.first);
                 setMarked(profiles);
             });
-    refresh();
+}
+
+void ProfileList::setCompact(bool compact)
+{
+    m_isCompact = compact;
+    m_heading->setHidden(compact);
+    m_buttons->setHidden(compact);
+    m_list->setVerticalScrollBarPolicy(compact ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+    layout()->setContentsMargins(compact ? 4 : 10, 10, compact ? 2 : 6, 10);
+    setFixedWidth(compact ? CompactWidth : FullWidth);
 }
 
 QToolButton *ProfileList::addButton(const QString &text, const QString &tip, const char *name)
@@ -234,6 +286,16 @@ void ProfileList::refreshRow(QListWidgetItem *item)
         words << tr("differs from what the device has");
     item->setToolTip(words.join(QStringLiteral(", ")));
     item->setData(Qt::AccessibleTextRole, item->toolTip());
+}
+
+void ProfileList::refreshProfile(int owner, int profile)
+{
+    const int row = rowOf(profile);
+    if (owner != m_context.owner() || row < 0)
+        return;
+    m_isFilling = true;
+    refreshRow(m_list->item(row));
+    m_isFilling = false;
 }
 
 int ProfileList::rowOf(int profile) const

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class QLabel;
 class QListWidget;
 class QListWidgetItem;
 class QMenu;
@@ -24,6 +25,11 @@ public:
     /// Profiles whose row lights up.
     void setMarked(const std::set<int> &profiles);
 
+    /// Compact: a strip of numbers and marks, for narrow windows. Names are in the tool tips, and
+    /// everything the buttons do is in the menu.
+    void setCompact(bool compact);
+    bool isCompact() const { return m_isCompact; }
+
 public slots:
     void rename();
     /// Copies the shown profile over the next one that nothing was ever put on; says so when
@@ -38,6 +44,9 @@ public slots:
 private:
     void refresh();
     void refreshRow(QListWidgetItem *item);
+    void refreshProfile(int owner, int profile);
+    QWidget *makeButtons();
+    void connectAll();
     void onRowChanged(int row);
     void onEdited(QListWidgetItem *item);
     void move(int step);
@@ -48,7 +57,10 @@ private:
     QToolButton *addButton(const QString &text, const QString &tip, const char *name);
 
     ShellContext &m_context;
+    QLabel *m_heading;
     QListWidget *m_list;
+    QWidget *m_buttons;
     std::set<int> m_marked;
     bool m_isFilling = false;
+    bool m_isCompact = false;
 };

@@ -78,6 +78,7 @@ QString ShellStyle::panelSheet()
                "QPushButton:pressed,QToolButton:pressed,QPushButton:checked{background:%3;}"
                "QPushButton:focus,QToolButton:focus{border-color:%4;}"
                "QPushButton:disabled,QToolButton:disabled{color:#76747c;background:transparent;}"
+               "QToolButton{padding:5px 6px;}"
                "QToolButton::menu-indicator{image:none;}"
                "QListView,QTreeView,QTableView{background:%5;border:1px solid %2;"
                "border-radius:4px;outline:none;}"
@@ -98,6 +99,14 @@ QString ShellStyle::tabSheet()
                           "QPushButton:checked{color:%2;border-bottom-color:%3;}"
                           "QPushButton:focus{background:%4;}")
         .arg(dim().name(), text().name(), accent().lighter(130).name(), raised().name());
+}
+
+QString ShellStyle::primarySheet()
+{
+    return QStringLiteral("QPushButton:enabled{background:%1;border-color:%1;padding:5px 18px;}"
+                          "QPushButton:enabled:hover{background:%2;}"
+                          "QPushButton:enabled:focus{border-color:%3;}")
+        .arg(accent().name(), accent().lighter(120).name(), text().name());
 }
 
 QString ShellStyle::headingSheet()

@@ -30,6 +30,8 @@ public:
     static QString panelSheet();
     /// Sheet of the bar with the names of the pages.
     static QString tabSheet();
+    /// Sheet of the button that a panel is about.
+    static QString primarySheet();
     /// Colour of a function kind that can be told from the dark ground: the legend's colours, the
     /// dark ones lightened.
     static QColor kind(int inputType);

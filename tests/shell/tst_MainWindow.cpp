@@ -1,0 +1,438 @@
+#include "shell/MainWindow.h"
+
+#include "ShellFixture.h"
+#include "core/VantrixMapWid.h"
+#include "interfaces/Modal.h"
+#include "shell/MappingView.h"
+#include "shell/MessageBar.h"
+#include "support/Gestures.h"
+#include "support/TestMain.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+
+#include <memory>
+#include <random>
+
+class tst_MainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void firstRoad();
+    void undoShowsInSimpleMode();
+    void undoShowsInAdvancedMode();
+    void undoGoesToItsProfile();
+    void stepsHaveNames();
+    void historyTravels();
+    void randomEditsUndone();
+    void putBackShows();
+    void resetIsAStep();
+    void resetDeclined();
+    void pressure();
+    void undonePressureReachesTheDevice();
+    void macrosAreTold();
+    void macroUndoIsTold();
+    void removedMacroLeavesTheKeys();
+    void pagesShareTheRoom();
+    void profilesShrink();
+    void goToShowsTheKey();
+    void languageKeepsTheSelection();
+    void captureCanBeForbidden();
+    void captureKeepsShortcutsOut();
+    void captureEndsElsewhere();
+    void reopening();
+    void secondShell();
+    void titleAndCounts();
+
+private:
+    void open(int width = 1280, int height = 900);
+    QPushButton *key(int index)
+    {
+        return child<QPushButton>(page(), QStringLiteral("key_%1").arg(index));
+    }
+    QWidget *page() { return m_window->mappingView()->page(); }
+    void click(const char *name) { child<QAbstractButton>(page(), name)->click(); }
+    /// A key and an entry of the drawn keyboard.
+    void assign(int index, const char *entry);
+    const StoreState &state() { return m_shell->store().state(); }
+    ushort code(int index, int profile = 0) { return state().mapping(0, profile, index).code; }
+    QString said() { return m_window->statusText(); }
+    QByteArray contents();
+
+    std::unique_ptr<ShellFixture> m_shell;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+void tst_MainWindow::open(int width, int height)
+{
+    m_window = std::make_unique<MainWindow>(m_shell->context);
+    m_window->resize(width, height);
+    m_window->show();
+    QCoreApplication::processEvents();
+}
+
+void tst_MainWindow::init()
+{
+    m_shell = std::make_unique<ShellFixture>();
+    open();
+}
+
+void tst_MainWindow::cleanup()
+{
+    Modal::setAnswerer(nullptr);
+    m_window.reset();
+    m_shell.reset();
+}
+
+void tst_MainWindow::assign(int index, const char *entry)
+{
+    if (!key(index)->isChecked())
+        key(index)->click();
+    click(entry);
+    m_shell->store().flush();
+}
+
+/// Everything that the history is about, of all profiles.
+QByteArray tst_MainWindow::contents()
+{
+    QByteArray bytes;
+    for (const auto &[id, value] : state().records()) {
+        if (kindOf(id.table) == StoreKind::Content)
+            bytes += QByteArray::number(int(id.table)) + ' ' + QByteArray::number(id.profile) +
+                     ' ' + QByteArray::number(id.index) + ' ' + value.toHex() + '\n';
+    }
+    return bytes;
+}
+
+void tst_MainWindow::firstRoad()
+{
+    QCOMPARE(said(), QStringLiteral("Everything is on the device."));
+    assign(7, "btn_48");
+    QCOMPARE(key(7)->text(), QStringLiteral("B"));
+    QCOMPARE(code(7), ushort(0x05));
+    QVERIFY(m_shell->device().differs(0, 0));
+    click("m_apply");
+    QVERIFY(!m_shell->device().differs(0, 0));
+    QCOMPARE(said(), QStringLiteral("PROFILE 1 is on the device."));
+    const DeviceImage image = m_shell->device().image(0, 0);
+    QCOMPARE(ushort(image.keys[7].content.mapping.code), ushort(0x05));
+}
+
+void tst_MainWindow::undoShowsInSimpleMode()
+{
+    assign(7, "btn_48");
+    m_window->undo();
+    QCOMPARE(key(7)->text(), QStringLiteral("W"));
+    QVERIFY(key(7)->isChecked());
+    QCOMPARE(m_shell->store().getCurrentKey(0, 0), 7);
+    QCOMPARE(said(), QStringLiteral("Undone: Assign B to key 7"));
+    m_window->redo();
+    QCOMPARE(key(7)->text(), QStringLiteral("B"));
+    QVERIFY(key(7)->isChecked());
+    QCOMPARE(said(), QStringLiteral("Done again: Assign B to key 7"));
+}
+
+void tst_MainWindow::undoShowsInAdvancedMode()
+{
+    click("m_advanced");
+    key(9)->click();
+    m_shell->assign(9, 0x05);
+    m_window->mappingView()->refresh();
+    QCOMPARE(key(9)->text(), QStringLiteral("B"));
+    m_window->undo();
+    QCOMPARE(key(9)->text(), QStringLiteral("R"));
+    QVERIFY(key(9)->isChecked());
+    QCOMPARE(m_shell->store().getMode(0, 0), 1);
+    QVERIFY(child<QPushButton>(page(), "m_advanced")->isChecked());
+}
+
+void tst_MainWindow::undoGoesToItsProfile()
+{
+    assign(7, "btn_48");
+    emit m_shell->context.goTo(5, 3);
+    QCOMPARE(m_shell->context.profile(), 5);
+    QVERIFY(key(3)->isChecked());
+    m_window->undo();
+    QCOMPARE(m_shell->context.profile(), 0);
+    QVERIFY(key(7)->isChecked());
+    QCOMPARE(key(7)->text(), QStringLiteral("W"));
+}
+
+void tst_MainWindow::stepsHaveNames()
+{
+    auto actions = m_window->findChildren<QAction *>();
+    const auto named = [&actions](const QString &text) {
+        for (const QAction *action : actions) {
+            if (action->text().remove(QLatin1Char('&')) == text)
+                return action->isEnabled();
+        }
+        return false;
+    };
+    QVERIFY(!named(QStringLiteral("Undo")));
+    assign(7, "btn_48");
+    QVERIFY(named(QStringLiteral("Undo Assign B to key 7")));
+    m_window->undo();
+    QVERIFY(named(QStringLiteral("Redo Assign B to key 7")));
+    QVERIFY(!named(QStringLiteral("Undo")));
+}
+
+void tst_MainWindow::historyTravels()
+{
+    assign(7, "btn_48");
+    assign(8, "btn_48");
+    assign(9, "btn_48");
+    emit m_shell->context.historyRequested(1);
+    QCOMPARE(key(7)->text(), QStringLiteral("B"));
+    QCOMPARE(key(8)->text(), QStringLiteral("E"));
+    emit m_shell->context.historyRequested(3);
+    QCOMPARE(key(9)->text(), QStringLiteral("B"));
+    emit m_shell->context.historyRequested(0);
+    QCOMPARE(key(7)->text(), QStringLiteral("W"));
+}
+
+void tst_MainWindow::randomEditsUndone()
+{
+    static const char *const entries[] = {"btn_48", "btn_30", "btn_31", "btn_57", "btn_59"};
+    std::mt19937 random(4711);
+    const QByteArray start = contents();
+    for (int i = 0; i < 200; ++i) {
+        if (random() % 10 == 0)
+            emit m_shell->context.goTo(int(random() % 24), NoKey);
+        assign(int(random() % 28), entries[random() % 5]);
+    }
+    const QByteArray end = contents();
+    QVERIFY(start != end);
+    while (m_shell->store().canUndo())
+        m_window->undo();
+    QCOMPARE(contents(), start);
+    while (m_shell->store().canRedo())
+        m_window->redo();
+    QCOMPARE(contents(), end);
+}
+
+void tst_MainWindow::putBackShows()
+{
+    assign(7, "btn_48");
+    m_window->showPage(ShellPage::Changes);
+    child<QPushButton>(m_window.get(), "m_putBackAllBtn")->click();
+    m_shell->store().flush();
+    QCOMPARE(key(7)->text(), QStringLiteral("W"));
+    QVERIFY(key(7)->isChecked());
+    QCOMPARE(code(7), ushort(255));
+}
+
+void tst_MainWindow::resetIsAStep()
+{
+    assign(7, "btn_48");
+    click("m_apply");
+    Modal::setAnswerer([](const ModalPrompt &) { return QVariant(1); });
+    click("m_reset");
+    m_shell->store().flush();
+    QCOMPARE(code(7), ushort(255));
+    QCOMPARE(key(7)->text(), QStringLiteral("W"));
+    QVERIFY(!m_shell->device().differs(0, 0));
+    QCOMPARE(m_shell->store().undoName(), QStringLiteral("Reset PROFILE 1"));
+    m_window->undo();
+    QCOMPARE(key(7)->text(), QStringLiteral("B"));
+    QVERIFY(m_shell->device().differs(0, 0));
+}
+
+void tst_MainWindow::resetDeclined()
+{
+    assign(7, "btn_48");
+    Modal::setAnswerer([](const ModalPrompt &) { return QVariant(0); });
+    click("m_reset");
+    QCOMPARE(code(7), ushort(0x05));
+}
+
+void tst_MainWindow::pressure()
+{
+    QVERIFY(m_shell->device().isPressureEnabled());
+    m_shell->store().setPressoEnabled(0);
+    emit m_window->mappingView()->page()->sigSdkRequest(23, nullptr);
+    QVERIFY(!m_shell->device().isPressureEnabled());
+}
+
+void tst_MainWindow::undonePressureReachesTheDevice()
+{
+    m_shell->store().setPressoEnabled(0);
+    emit m_window->mappingView()->page()->sigSdkRequest(23, nullptr);
+    m_shell->store().flush();
+    m_window->undo();
+    QVERIFY(m_shell->device().isPressureEnabled());
+}
+
+void tst_MainWindow::macrosAreTold()
+{
+    auto *const list = child<QListWidget>(page(), "m_macroList");
+    QVERIFY(m_shell->store().addMacro(0, QStringLiteral("Hello"), {}));
+    emit m_shell->context.macroAdded(QStringLiteral("Hello"));
+    m_shell->store().flush();
+    QCOMPARE(list->count(), 1);
+    QCOMPARE(list->item(0)->text(), QStringLiteral("M1 - Hello"));
+    m_shell->store().renameMacro(0, QStringLiteral("Hello"), QStringLiteral("Bye"));
+    emit m_shell->context.macroRenamed(QStringLiteral("Hello"), QStringLiteral("Bye"));
+    m_shell->store().flush();
+    QCOMPARE(list->item(0)->text(), QStringLiteral("M1 - Bye"));
+    emit m_shell->context.goTo(3, NoKey);
+    QCOMPARE(list->count(), 1);
+}
+
+void tst_MainWindow::macroUndoIsTold()
+{
+    auto *const list = child<QListWidget>(page(), "m_macroList");
+    m_shell->store().addMacro(0, QStringLiteral("Hello"), {});
+    emit m_shell->context.macroAdded(QStringLiteral("Hello"));
+    m_shell->store().flush();
+    m_window->undo();
+    QCOMPARE(list->count(), 0);
+    m_window->redo();
+    QCOMPARE(list->count(), 1);
+}
+
+void tst_MainWindow::removedMacroLeavesTheKeys()
+{
+    m_shell->store().addMacro(0, QStringLiteral("Hello"), {});
+    emit m_shell->context.macroAdded(QStringLiteral("Hello"));
+    m_shell->store().setNamedMacroKey(0, 0, "Hello", 4);
+    m_shell->store().flush();
+    m_window->mappingView()->refresh();
+    QCOMPARE(key(4)->text(), QStringLiteral("M1"));
+    emit m_shell->context.macroAboutToBeRemoved(QStringLiteral("Hello"));
+    m_shell->store().removeMacro(0, QStringLiteral("Hello"));
+    m_shell->store().flush();
+    QVERIFY(key(4)->text() != QStringLiteral("M1"));
+    QVERIFY(!state().macroKey(0, 0, 4));
+}
+
+void tst_MainWindow::pagesShareTheRoom()
+{
+    auto *const side = child<QWidget>(m_window.get(), "m_sidePages");
+    QVERIFY(page()->isVisible());
+    QVERIFY(!side->isVisible());
+    m_window->showPage(ShellPage::Changes);
+    QVERIFY(!page()->isVisible());
+    QVERIFY(side->isVisible());
+    m_window->resize(1600, 1000);
+    QTRY_VERIFY(page()->isVisible());
+    QVERIFY(side->isVisible());
+    m_window->showPage(ShellPage::Mapping);
+    QVERIFY(!side->isVisible());
+}
+
+void tst_MainWindow::profilesShrink()
+{
+    auto *const list = child<QWidget>(m_window.get(), "m_profileList");
+    QCOMPARE(list->width(), 216);
+    m_window->resize(1024, 700);
+    QTRY_COMPARE(list->width(), 60);
+    QCOMPARE(child<QLabel>(m_window.get(), "m_shownLab")->text(), QStringLiteral("PROFILE 1"));
+    QCOMPARE(m_window->size(), QSize(1024, 700));
+}
+
+void tst_MainWindow::goToShowsTheKey()
+{
+    m_window->showPage(ShellPage::Changes);
+    emit m_shell->context.goTo(2, 11);
+    QCOMPARE(m_window->shownPage(), ShellPage::Mapping);
+    QVERIFY(key(11)->isChecked());
+    QCOMPARE(m_shell->store().getCurrentKey(0, 2), 11);
+}
+
+void tst_MainWindow::languageKeepsTheSelection()
+{
+    key(7)->click();
+    const QWidget *const before = page();
+    m_shell->store().setSetting(QStringLiteral("language"), QStringLiteral("2"));
+    m_shell->store().flush();
+    QVERIFY(page() != before);
+    QCOMPARE(m_shell->services.environment().getLanguage(), 2);
+    QVERIFY(key(7)->isChecked());
+    QVERIFY(page()->isVisible());
+}
+
+void tst_MainWindow::captureCanBeForbidden()
+{
+    m_window->mappingView()->setCaptureAllowed(true);
+    clickOn(key(7));
+    QVERIFY(m_shell->services.keyCapture().capturing());
+    m_window->mappingView()->setCaptureAllowed(false);
+    QVERIFY(!m_shell->services.keyCapture().capturing());
+}
+
+void tst_MainWindow::captureKeepsShortcutsOut()
+{
+    clickOn(key(7));
+    QVERIFY(m_shell->services.keyCapture().capturing());
+    QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
+    event.ignore();
+    QCoreApplication::sendEvent(m_window.get(), &event);
+    QVERIFY(event.isAccepted());
+    clickOn(key(7));
+    QVERIFY(!m_shell->services.keyCapture().capturing());
+    event.ignore();
+    QCoreApplication::sendEvent(m_window.get(), &event);
+    QVERIFY(!event.isAccepted());
+}
+
+void tst_MainWindow::captureEndsElsewhere()
+{
+    clickOn(key(7));
+    clickOn(child<QListWidget>(m_window.get(), "m_profiles")->viewport(), QPoint(40, 10));
+    QVERIFY(!m_shell->services.keyCapture().capturing());
+}
+
+void tst_MainWindow::reopening()
+{
+    assign(7, "btn_48");
+    emit m_shell->context.goTo(2, 11);
+    m_window->resize(1100, 800);
+    m_window->close();
+    m_window.reset();
+    m_window = std::make_unique<MainWindow>(m_shell->context);
+    m_window->show();
+    QCOMPARE(m_window->size(), QSize(1100, 800));
+    QCOMPARE(m_shell->context.profile(), 2);
+    QVERIFY(key(11)->isChecked());
+    QCOMPARE(said(), QStringLiteral("Not on the device yet: PROFILE 1."));
+    m_window->undo();
+    QCOMPARE(m_shell->context.profile(), 0);
+    QCOMPARE(key(7)->text(), QStringLiteral("W"));
+}
+
+void tst_MainWindow::secondShell()
+{
+    m_window->close();
+    m_window.reset();
+    HostServices second(m_shell->folder.filePath(QStringLiteral("data")));
+    ShellContext context(second);
+    MainWindow window(context);
+    window.show();
+    auto *const bar = child<MessageBar>(&window, "m_messageBar");
+    QVERIFY(bar->isVisible());
+    QCOMPARE(bar->messages().size(), 1);
+    QVERIFY(window.windowTitle().contains(QStringLiteral("(read only)")));
+    QCOMPARE(child<QLabel>(&window, "m_savedLab")->text(), QStringLiteral("READ ONLY"));
+    child<QPushButton>(bar, "m_dismissBtn")->click();
+    QVERIFY(!bar->isVisible());
+}
+
+void tst_MainWindow::titleAndCounts()
+{
+    auto *const tab = child<QPushButton>(m_window.get(), "m_tab1");
+    QCOMPARE(tab->text(), QStringLiteral("CHANGES"));
+    assign(7, "btn_48");
+    QCOMPARE(tab->text(), QStringLiteral("CHANGES 1"));
+    m_shell->store().setProfileName(0, 0, QStringLiteral("Games"));
+    m_shell->store().flush();
+    QCOMPARE(m_window->windowTitle(), QStringLiteral("Games - VANTRIX"));
+}
+
+VANTRIX_TEST_MAIN(tst_MainWindow)
+#include "tst_MainWindow.moc"

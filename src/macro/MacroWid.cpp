@@ -2,11 +2,13 @@
 
 #include "core/records.h"
 #include "interfaces/IVantrixProfileCfg.h"
+#include "toolkit/NarrowText.h"
 #include "toolkit/PanelStyle.h"
 #include "vocabulary/KeyCodes.h"
 
 #include "ui_MacroUi.h"
 
+#include <QEvent>
 #include <QListWidgetItem>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -17,6 +19,8 @@ public:
     MacroItem(const QString &number, const QString &name) : m_number(number), m_name(name)
     {
         setTextAlignment(Qt::AlignCenter);
+        // As wide as the list, however long the name is.
+        setSizeHint({0, RowHeight});
         updateText();
     }
 
@@ -36,7 +40,13 @@ public:
     }
 
 private:
-    void updateText() { setText(m_number + QStringLiteral(" - ") + m_name); }
+    static constexpr int RowHeight = 26;
+
+    void updateText()
+    {
+        setText(m_number + QStringLiteral(" - ") + m_name);
+        setToolTip(text().toHtmlEscaped());
+    }
 
     QString m_number;
     QString m_name;
@@ -66,6 +76,7 @@ MacroWid::MacroWid(QWidget *parent) : QWidget(parent), m_ui(std::make_unique<Ui:
     colorSelection(m_ui->m_macroList);
     m_ui->m_macroList->verticalScrollBar()->setStyleSheet(scrollBarSheet());
     m_ui->m_macroList->setAccessibleName(tr(inputTypeName(InputType::Macro)));
+    m_ui->m_createBtn->installEventFilter(this);
     connect(m_ui->m_createBtn, &QPushButton::clicked, this, &MacroWid::sigCreateMacro);
     connect(m_ui->m_macroList, &QListWidget::itemSelectionChanged, this,
             &MacroWid::slotMacroChanged);
@@ -75,6 +86,15 @@ MacroWid::~MacroWid()
 {
     // The list empties itself when it goes, and there is no panel left to hear of it.
     m_ui->m_macroList->blockSignals(true);
+}
+
+bool MacroWid::eventFilter(QObject *watched, QEvent *event)
+{
+    constexpr int margins = 8;
+    QPushButton *const button = m_ui->m_createBtn;
+    if (watched == button && event->type() == QEvent::Resize)
+        narrowText(button, button->text(), button->width() - margins);
+    return QWidget::eventFilter(watched, event);
 }
 
 MacroItem *MacroWid::item(int row) const

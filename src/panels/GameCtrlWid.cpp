@@ -68,6 +68,8 @@ void GameCtrlWid::add(CtrlPart *control, ushort code)
     control->setAccessibleName(name);
     control->setToolTip(name);
     m_group->addButton(control, code);
+    // The panel may be visible already.
+    control->show();
 }
 
 void GameCtrlWid::buildControls()

@@ -69,6 +69,7 @@ MouseWid::MouseWid(QWidget *parent)
 {
     m_ui->setupUi(this);
     m_cursorLab->setObjectName(QStringLiteral("m_cursorLab"));
+    m_cursorLab->setAlignment(Qt::AlignCenter);
     for (const ushort code : InputKeyLists().at(InputType::Mouse)) {
         if (std::find(HorizontalScroll.begin(), HorizontalScroll.end(), code) ==
             HorizontalScroll.end())
@@ -125,7 +126,8 @@ void MouseWid::placeCursor()
     const int base = w / 10;
     const int cursorHeight = base * 3 / 2;
     m_cursor.showIn(m_cursorLab, m_cursor.fittedInto({base, cursorHeight}));
-    m_cursorLab->setGeometry(cx - base / 2, cy - cursorHeight / 2, base, cursorHeight);
+    m_cursorLab->setFixedSize(base, cursorHeight);
+    m_cursorLab->move(cx - base / 2, cy - cursorHeight / 2);
 
     for (const RingShift &shift : Ring) {
         auto *const key = static_cast<MouseKey *>(group()->button(shift.code));

@@ -1,6 +1,9 @@
 #include "dualaction/DualActionType.h"
 
 #include "core/records.h"
+#include "toolkit/NarrowText.h"
+
+#include <QEvent>
 
 #include <map>
 
@@ -33,4 +36,26 @@ DualActionType::DualActionType(int type, QWidget *parent) : QPushButton(parent)
     if (row != typeTexts().end())
         setText(tr(row->second));
     lower();
+}
+
+QSize DualActionType::minimumSizeHint() const
+{
+    return QSize(1, QPushButton::minimumSizeHint().height());
+}
+
+bool DualActionType::event(QEvent *event)
+{
+    const bool isHandled = QPushButton::event(event);
+    // The sheet's width is what the button would like; as a minimum it would push its neighbours
+    // off a small dialog.
+    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
+        setMinimumWidth(0);
+    return isHandled;
+}
+
+void DualActionType::resizeEvent(QResizeEvent *event)
+{
+    QPushButton::resizeEvent(event);
+    constexpr int borders = 8;
+    narrowText(this, text(), width() - borders);
 }

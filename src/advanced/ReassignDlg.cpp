@@ -29,6 +29,7 @@ ReassignDlg::ReassignDlg(QWidget *parent)
     m_ui->setupUi(this);
     // The veil is as large as the window under it, however little room that leaves.
     setMinimumSize(1, 1);
+    setUpSearch();
     buildInputs();
     fillPickers();
     orderTabs();
@@ -38,6 +39,17 @@ ReassignDlg::ReassignDlg(QWidget *parent)
 }
 
 ReassignDlg::~ReassignDlg() = default;
+
+/// The field is lighter than what surrounds it.
+void ReassignDlg::setUpSearch()
+{
+    QPalette palette = m_ui->m_search->palette();
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::PlaceholderText, QColor(50, 50, 50));
+    m_ui->m_search->setPalette(palette);
+    m_ui->m_search->setTextMargins(8, 0, 8, 0);
+    m_ui->m_search->setClearButtonEnabled(true);
+}
 
 void ReassignDlg::buildInputs()
 {

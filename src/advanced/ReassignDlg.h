@@ -69,6 +69,7 @@ private slots:
     void slotMainWindowMoved();
 
 private:
+    void setUpSearch();
     void buildInputs();
     void fillPickers();
     void orderTabs();

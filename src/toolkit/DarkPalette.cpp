@@ -23,8 +23,8 @@ QPalette darkPalette()
     }
     palette.setColor(QPalette::Base, QColor(25, 25, 25));
     palette.setColor(QPalette::PlaceholderText, QColor(225, 225, 225));
-    palette.setColor(QPalette::Highlight, QColor(132, 49, 155));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Highlight, QColor(214, 150, 235));
+    palette.setColor(QPalette::HighlightedText, Qt::black);
     palette.setColor(QPalette::ToolTipBase, QColor(25, 25, 25));
     palette.setColor(QPalette::ToolTipText, Qt::white);
     return palette;

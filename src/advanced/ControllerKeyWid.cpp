@@ -5,15 +5,23 @@
 
 #include "ui_ControllerKeyUi.h"
 
+#include <QFontMetrics>
+
 #include <algorithm>
 
 namespace {
 
-constexpr int TextMargin = 6;
+constexpr int TextMargin = 4;
+const QString KeySeparator = QStringLiteral(",\n");
 
 QString padKeyName(int keyIdx)
 {
     return QStringLiteral("VANTRIX %1").arg(keyIdx + 1, 2, 10, QLatin1Char('0'));
+}
+
+int widthOf(const QString &text, const QFont &font)
+{
+    return QFontMetrics(font).horizontalAdvance(text) + 2 * TextMargin;
 }
 
 } // namespace
@@ -25,10 +33,21 @@ ControllerKeyWid::ControllerKeyWid(int iKeyId, QWidget *parent)
     const QString name = tr(keyFunctionName(ushort(iKeyId)));
     m_ui->m_gamepad->setText(name);
     m_ui->m_keyNo->setAccessibleName(name);
+    reserveWidths();
     connect(m_ui->m_keyNo, &QPushButton::clicked, this, &ControllerKeyWid::slotKeyAssigned);
 }
 
 ControllerKeyWid::~ControllerKeyWid() = default;
+
+void ControllerKeyWid::reserveWidths()
+{
+    m_ui->m_gamepad->ensurePolished();
+    QFont found = m_ui->m_gamepad->font();
+    found.setBold(true);
+    m_ui->m_gamepad->setMinimumWidth(widthOf(m_ui->m_gamepad->text(), found));
+    m_ui->m_keyNo->ensurePolished();
+    m_ui->m_keyNo->setMinimumWidth(widthOf(padKeyName(0) + KeySeparator, m_ui->m_keyNo->font()));
+}
 
 void ControllerKeyWid::setKeys(int iCurrKey, const std::vector<int> &lsKeys)
 {
@@ -41,6 +60,11 @@ void ControllerKeyWid::delCurrKey()
 {
     if (takeCurrKey())
         updateKeyText();
+}
+
+QSize ControllerKeyWid::minimumSizeHint() const
+{
+    return {QWidget::minimumSizeHint().width(), sizeHint().height() + TextMargin};
 }
 
 bool ControllerKeyWid::takeCurrKey()
@@ -69,7 +93,7 @@ void ControllerKeyWid::updateKeyText()
     QStringList names;
     for (const int keyIdx : m_lsKeys)
         names << padKeyName(keyIdx);
-    Common::SetText(m_ui->m_keyNo, names.join(QStringLiteral(",\n")));
+    Common::SetText(m_ui->m_keyNo, names.join(KeySeparator));
     m_ui->m_keyNo->setAccessibleDescription(names.join(QStringLiteral(", ")));
 }
 

@@ -33,6 +33,9 @@ public:
     /// text ends that.
     void search(QString strText);
 
+    /// High enough for all keys.
+    QSize minimumSizeHint() const override;
+
 signals:
     /// The key being edited has just got the function `iKeyId`.
     void sigAddCurrKeyToGamepad(ushort iKeyId);
@@ -44,6 +47,8 @@ private slots:
     void slotKeyAssigned();
 
 private:
+    /// Neither the keys on the row nor a search change the widths.
+    void reserveWidths();
     bool takeCurrKey();
     void updateKeyText();
 

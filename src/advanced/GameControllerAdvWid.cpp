@@ -7,6 +7,7 @@
 
 #include <QEvent>
 
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -54,6 +55,22 @@ static_assert(sizeof(Rows) / sizeof(Rows[0]) == 25);
 constexpr ushort LeftBumper = 466;
 constexpr double CentreOfPicture = 0.28;
 
+void addToColumn(QVBoxLayout *column, QWidget *row, Side side)
+{
+    column->addWidget(row);
+    if (side == LeftEnd || side == RightEnd)
+        column->addStretch();
+}
+
+/// Rows on the picture that grow with their keys stay legible where they leave its dark panel.
+void setBackdrop(QWidget *row)
+{
+    QPalette palette = row->palette();
+    palette.setColor(QPalette::Window, QColor(23, 23, 24));
+    row->setPalette(palette);
+    row->setAutoFillBackground(true);
+}
+
 } // namespace
 
 GameControllerAdvWid::GameControllerAdvWid(QWidget *parent)
@@ -64,21 +81,28 @@ GameControllerAdvWid::GameControllerAdvWid(QWidget *parent)
         auto *const row = new ControllerKeyWid(place.code, this);
         row->setObjectName(QStringLiteral("controllerKey_%1").arg(place.code));
         m_mKeys[place.code] = row;
-        if (place.side != Centre) {
-            QVBoxLayout *const column =
-                place.side <= LeftEnd ? m_ui->m_leftLayout : m_ui->m_rightLayout;
-            column->addWidget(row);
-            if (place.side == LeftEnd || place.side == RightEnd)
-                column->addStretch();
-        }
+        if (place.side == Centre)
+            setBackdrop(row);
+        else
+            addToColumn(place.side < Centre ? m_ui->m_leftLayout : m_ui->m_rightLayout, row,
+                        place.side);
         connect(row, &ControllerKeyWid::sigAddCurrKeyToGamepad, this,
                 &GameControllerAdvWid::slotDelCurrKeyToGamepad);
         connect(row, &ControllerKeyWid::sigGameControllerChanged, this,
                 &GameControllerAdvWid::sigGameControllerChanged);
     }
+    reservePicture();
 }
 
 GameControllerAdvWid::~GameControllerAdvWid() = default;
+
+void GameControllerAdvWid::reservePicture()
+{
+    int width = 0;
+    for (const auto &[code, row] : m_mKeys)
+        width = std::max(width, row->minimumSizeHint().width());
+    m_ui->m_backgroundLab->setMinimumWidth(int(width / (1 - CentreOfPicture)));
+}
 
 void GameControllerAdvWid::setProfile(int iOwner, int iProfile)
 {

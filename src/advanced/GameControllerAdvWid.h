@@ -46,6 +46,8 @@ private slots:
     void slotDelCurrKeyToGamepad(ushort iKeyId);
 
 private:
+    /// The picture is never narrower than the rows on it, which begin at a fixed part of it.
+    void reservePicture();
     void placeCentreRows();
 
     const std::unique_ptr<Ui::GameControllerAdvUi> m_ui;

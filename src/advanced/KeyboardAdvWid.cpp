@@ -1,9 +1,12 @@
 #include "advanced/KeyboardAdvWid.h"
 
 #include "advanced/AdvAssignWid.h"
+#include "toolkit/PanelStyle.h"
 #include "vocabulary/KeyCategories.h"
 
 #include "ui_KeyboardAdvUi.h"
+
+#include <QScrollBar>
 
 namespace {
 
@@ -23,6 +26,8 @@ KeyboardAdvWid::KeyboardAdvWid(QWidget *parent) : QWidget(parent)
 {
     Ui::KeyboardAdvUi ui;
     ui.setupUi(this);
+    ui.scrollArea->verticalScrollBar()->setStyleSheet(scrollBarSheet());
+    ui.scrollArea->horizontalScrollBar()->setStyleSheet(scrollBarSheet());
     ui.verticalLayout_3->setAlignment(Qt::AlignTop);
     for (const KeyCategory &category : KeyCategories()) {
         if (ui.m_layout->count() > 0)

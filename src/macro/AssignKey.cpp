@@ -12,6 +12,12 @@ AssignKey::AssignKey(QWidget *parent) : QPushButton(parent)
     setUp(QStringLiteral("text-align:left;font-size:13px;"), QStringLiteral(":pressed"));
 }
 
+QSize AssignKey::sizeHint() const
+{
+    constexpr int Air = 12;
+    return QPushButton::sizeHint() + QSize(Air, 0);
+}
+
 void AssignKey::setUp(const QString &ofKind, const QString &stateRule)
 {
     // Enter in a dialog's search field clicks the first button that would be a default.

@@ -14,6 +14,9 @@ public:
     /// A head, left-aligned and not checkable; its text is set later.
     explicit AssignKey(QWidget *parent = nullptr);
 
+    /// Leaves some air between the texts of neighbours.
+    QSize sizeHint() const override;
+
 private:
     void setUp(const QString &ofKind, const QString &stateRule);
 };

@@ -2,11 +2,14 @@
 
 #include "interfaces/ButtonGroupEx.h"
 #include "macro/AssignKey.h"
+#include "toolkit/PanelStyle.h"
 #include "toolkit/SearchGrid.h"
 #include "vocabulary/KeyCodes.h"
 #include "vocabulary/KeyNames.h"
 
 #include "ui_MacroAdvUi.h"
+
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -50,6 +53,8 @@ MacroAdvWid::MacroAdvWid(QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::MacroAdvUi>()), m_group(new ButtonGroupEx(this))
 {
     m_ui->setupUi(this);
+    m_ui->scrollArea->verticalScrollBar()->setStyleSheet(scrollBarSheet());
+    m_ui->scrollArea->horizontalScrollBar()->setStyleSheet(scrollBarSheet());
     m_ui->gridLayout->setAlignment(Qt::AlignTop);
     m_ui->m_userLayout->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_ui->m_winLayout->setAlignment(Qt::AlignLeft | Qt::AlignTop);

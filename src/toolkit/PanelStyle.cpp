@@ -9,10 +9,14 @@ QString selectorSheet(const QString &checkedRule)
 
 QString scrollBarSheet()
 {
-    return QStringLiteral(
-        "QScrollBar:vertical{background:transparent;width:10px;margin:0px;}"
-        "QScrollBar::handle:vertical{background:rgb(160,160,160);border-radius:3px;"
-        "min-height:24px;margin:0px 2px;}"
-        "QScrollBar::add-line:vertical,QScrollBar::sub-line:vertical{height:0px;}"
-        "QScrollBar::add-page:vertical,QScrollBar::sub-page:vertical{background:transparent;}");
+    const QString sheet =
+        QStringLiteral("QScrollBar:%1{background:transparent;%2:10px;margin:0px;}"
+                       "QScrollBar::handle:%1{background:rgb(160,160,160);border-radius:3px;"
+                       "min-%3:24px;margin:%4;}"
+                       "QScrollBar::add-line:%1,QScrollBar::sub-line:%1{%3:0px;}"
+                       "QScrollBar::add-page:%1,QScrollBar::sub-page:%1{background:transparent;}");
+    return sheet.arg(QStringLiteral("vertical"), QStringLiteral("width"), QStringLiteral("height"),
+                     QStringLiteral("0px 2px")) +
+           sheet.arg(QStringLiteral("horizontal"), QStringLiteral("height"),
+                     QStringLiteral("width"), QStringLiteral("2px 0px"));
 }

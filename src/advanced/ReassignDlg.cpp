@@ -3,6 +3,7 @@
 #include "interfaces/IEnvironment.h"
 #include "interfaces/Modal.h"
 #include "toolkit/DarkPalette.h"
+#include "toolkit/FocusRing.h"
 #include "ui_ReassignDlg.h"
 #include "vocabulary/KeyCodes.h"
 
@@ -36,6 +37,7 @@ ReassignDlg::ReassignDlg(QWidget *parent)
     connectSearch();
     connectSelection();
     connectPicks();
+    new FocusRing(this);
 }
 
 ReassignDlg::~ReassignDlg() = default;

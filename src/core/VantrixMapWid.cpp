@@ -9,6 +9,7 @@
 #include "panels/InputWid.h"
 #include "panels/PressoWid.h"
 #include "panels/SidePanelWid.h"
+#include "toolkit/FocusRing.h"
 #include "vocabulary/Common.h"
 #include "vocabulary/KeyCodes.h"
 
@@ -89,6 +90,7 @@ VantrixMapWid::VantrixMapWid(int iOwner, QWidget *parent) : QWidget(parent), m_d
     connectPanels();
     connectShell();
     connectCapture();
+    new FocusRing(this);
 }
 
 VantrixMapWid::~VantrixMapWid()

@@ -124,6 +124,8 @@ void VantrixMapWid::createStateLab()
         if (state != InputType::Unassigned)
             m_data->m_stateLayout->addStretch();
     }
+    // A page without enough height would squeeze the strip, and everything is placed by it.
+    m_data->m_stateWid->setFixedHeight(m_data->m_stateWid->sizeHint().height());
 }
 
 void VantrixMapWid::createButtons()

@@ -67,6 +67,8 @@ int runTest(int argc, char **argv, const std::function<QObject *()> &makeTest)
     if (arguments.contains(QStringLiteral("-o")))
         return QTest::qExec(test.get(), arguments);
     const QString log = home.filePath(QStringLiteral("log.txt"));
+    // Every warning counts, however many there are.
+    arguments << QStringLiteral("-maxwarnings") << QStringLiteral("0");
     arguments << QStringLiteral("-o") << log + QStringLiteral(",txt") << QStringLiteral("-o")
               << QStringLiteral("-,txt");
     const int failures = QTest::qExec(test.get(), arguments);

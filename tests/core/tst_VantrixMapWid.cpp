@@ -1,0 +1,708 @@
+#include "core/VantrixMapWid.h"
+
+#include "advanced/AssignMenuWid.h"
+#include "core/BoardFixture.h"
+#include "core/LegendWid.h"
+#include "panels/InputWid.h"
+#include "panels/Keyboard.h"
+#include "panels/MapWid.h"
+#include "panels/PressoWid.h"
+#include "panels/SidePanelWid.h"
+#include "support/TestMain.h"
+
+#include <QButtonGroup>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QThreadPool>
+#include <QVBoxLayout>
+
+#include <memory>
+
+class tst_VantrixMapWid : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { registerRecordTypes(); }
+    void init();
+    void cleanup();
+
+    void form();
+    void legend();
+    void modeButtons();
+    void geometry_data();
+    void geometry();
+    void heightOfThePanels_data();
+    void heightOfThePanels();
+    void advancedGeometry();
+    void sizeStaysAsGiven_data();
+    void sizeStaysAsGiven();
+    void anySize();
+    void updateUiShowsTheProfile();
+    void updateUiOrder();
+    void updateKeyMappingReadsAnew();
+    void modeClick();
+    void sameModeClickWritesNothing();
+    void inputClick();
+    void sidePanelRule_data();
+    void sidePanelRule();
+    void menuRule();
+    void captureRule();
+    void captureEndsWithApply();
+    void presets_data();
+    void presets();
+    void presetAfterPreset();
+    void pressureSwitch();
+    void apply();
+    void reset();
+    void resetDeclined();
+    void macros();
+    void deletedMacro();
+    void updateMacroAssign();
+    void winShortcutKeys();
+    void wholeRoadInSimpleMode();
+    void hiding();
+    void relays();
+    void pageMayDieInAWarning();
+
+private:
+    template <typename T>
+    T *find(const char *name) const
+    {
+        return child<T>(m_page, QLatin1String(name));
+    }
+    QPushButton *key(int index) const
+    {
+        return child<QPushButton>(m_page, QStringLiteral("key_%1").arg(index));
+    }
+    FakeProfileCfg::Profile &profile(int number = 2) { return m_store->profile(5, number); }
+    bool isCapturing() const { return m_hotKeys->capturing != nullptr; }
+    void click(const char *name) const { find<QPushButton>(name)->click(); }
+
+    std::unique_ptr<FakeEnvironment> m_environment;
+    std::unique_ptr<FakeSystemHotKey> m_hotKeys;
+    std::unique_ptr<FakeProfileCfg> m_store;
+    std::unique_ptr<FakeParse> m_parse;
+    std::unique_ptr<QWidget> m_window;
+    VantrixMapWid *m_page = nullptr;
+    QStringList m_asked;
+    int m_answer = 0;
+};
+
+void tst_VantrixMapWid::init()
+{
+    m_environment = std::make_unique<FakeEnvironment>();
+    m_hotKeys = std::make_unique<FakeSystemHotKey>();
+    m_store = std::make_unique<FakeProfileCfg>();
+    m_parse = std::make_unique<FakeParse>();
+    m_window = std::make_unique<QWidget>();
+    m_window->resize(784, 808);
+    m_environment->mainWidget = m_window.get();
+    m_asked.clear();
+    m_answer = 0;
+    Modal::setAnswerer([this](const ModalPrompt &prompt) {
+        m_asked << prompt.title + QLatin1Char('|') + prompt.text;
+        return QVariant(m_answer);
+    });
+    m_page = new VantrixMapWid(5, m_window.get());
+    m_page->resize(784, 808);
+    m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_page->updateUi(2);
+    m_store->clearLog();
+}
+
+void tst_VantrixMapWid::cleanup()
+{
+    m_window.reset();
+    QThreadPool::globalInstance()->waitForDone();
+    Modal::setAnswerer(nullptr);
+    m_parse.reset();
+    m_store.reset();
+    m_hotKeys.reset();
+    m_environment.reset();
+}
+
+void tst_VantrixMapWid::form()
+{
+    QCOMPARE(m_page->windowTitle(), QString("Form"));
+    QCOMPARE(m_page->sizeHint(), QSize(784, 808));
+    const auto *const layout = qobject_cast<QVBoxLayout *>(m_page->layout());
+    QCOMPARE(layout->objectName(), QString("verticalLayout_2"));
+    QCOMPARE(layout->spacing(), 0);
+    QCOMPARE(layout->contentsMargins().top(), 0);
+    QCOMPARE(layout->contentsMargins().bottom(), 5);
+    QCOMPARE(find<QWidget>("m_stateWid")->styleSheet(), QString("background:rgb(51,51,51);"));
+    QCOMPARE(find<QWidget>("m_stateWid")->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+    QCOMPARE(find<QPushButton>("m_apply")->styleSheet(), QString("min-height:30px;"));
+    QCOMPARE(find<QPushButton>("m_reset")->text(), QString("RESET"));
+}
+
+void tst_VantrixMapWid::legend()
+{
+    const QStringList expected{"KEYBOARD",        "MOUSE",       "MEDIA",       "MACRO",
+                               "GAME CONTROLLER", "APPLICATION", "DUAL ACTION", "PRESSO FUNCTIONS",
+                               "BACKLIGHT",       "PROFILE",     "DISABLED",    "UNASSIGNED"};
+    QStringList texts;
+    m_window->resize(1600, 900);
+    m_page->resize(1600, 900);
+    QLayout *const row = find<QWidget>("m_stateWid")->findChild<QHBoxLayout *>("m_stateLayout");
+    int stretches = 0;
+    for (int i = 0; i < row->count(); ++i) {
+        QWidget *const widget = row->itemAt(i)->widget();
+        if (!widget)
+            ++stretches;
+        else if (auto *const label = qobject_cast<QLabel *>(widget))
+            texts << label->text();
+        else
+            QCOMPARE(widget->size(), QSize(30, 30));
+    }
+    QCOMPARE(texts, expected);
+    QCOMPARE(stretches, 11);
+    QVERIFY(!row->itemAt(row->count() - 1)->spacerItem());
+}
+
+void tst_VantrixMapWid::modeButtons()
+{
+    const QString sheet = find<QPushButton>("m_simple")->styleSheet();
+    QCOMPARE(sheet.simplified(),
+             QString("QPushButton{background:transparent;border-radius:5px;border:1px solid "
+                     "#333333;min-height:30px;} "
+                     ":checked{background:rgb(132,49,155);border:none;}"));
+    QCOMPARE(find<QPushButton>("m_advanced")->styleSheet(), sheet);
+    QVERIFY(find<QPushButton>("m_simple")->isChecked());
+    QVERIFY(!find<QPushButton>("m_advanced")->isChecked());
+}
+
+void tst_VantrixMapWid::geometry_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QRect>("advanced");
+    QTest::addColumn<QRect>("simple");
+    QTest::addColumn<QRect>("input");
+    QTest::newRow("as drawn") << QSize(784, 808) << QRect(624, 6, 150, 40) << QRect(468, 6, 150, 40)
+                              << QRect(6, 6, 156, 444);
+    QTest::newRow("larger") << QSize(1500, 900) << QRect(1340, 6, 150, 40)
+                            << QRect(1184, 6, 150, 40) << QRect(6, 6, 300, 495);
+}
+
+void tst_VantrixMapWid::geometry()
+{
+    QFETCH(QSize, size);
+    QFETCH(QRect, advanced);
+    QFETCH(QRect, simple);
+    QFETCH(QRect, input);
+    m_page->resize(size);
+    QCoreApplication::processEvents();
+    QCOMPARE(find<QWidget>("m_advanced")->geometry(), advanced);
+    QCOMPARE(find<QWidget>("m_simple")->geometry(), simple);
+    QCOMPARE(find<QWidget>("m_inputWid")->geometry(), input);
+    const QRect legend = find<QWidget>("m_stateWid")->geometry();
+    QCOMPARE(legend.bottom() + 1, size.height() - 5);
+    const QRect reset(legend.x() + legend.width() - 150, size.height() - 46 - legend.height(), 150,
+                      40);
+    QCOMPARE(find<QWidget>("m_reset")->geometry(), reset);
+    QCOMPARE(find<QWidget>("m_apply")->geometry(), reset.translated(0, -41));
+    const int h = int(legend.height() * 1.2);
+    QCOMPARE(
+        find<QWidget>("m_pressoWid")->geometry(),
+        QRect(legend.x(), size.height() - 6 - h - legend.height(), int(input.width() * 0.78), h));
+    const QRect side = find<QWidget>("m_sidePanelWid")->geometry();
+    QCOMPARE(side.topLeft(), QPoint(6 + 15, input.bottom() + 1 - 15));
+    QCOMPARE(side.width(), input.width() - 30);
+    QCOMPARE(find<QWidget>("m_assignWid")->size(),
+             QSize(size.width() / 3, int(size.height() * 0.6)));
+}
+
+void tst_VantrixMapWid::heightOfThePanels_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("height");
+    QTest::newRow("simple, whole") << 0 << 808;
+    QTest::newRow("simple, small") << 0 << 300;
+    QTest::newRow("simple, no room for panels") << 0 << 95;
+    QTest::newRow("advanced") << 1 << 808;
+}
+
+void tst_VantrixMapWid::heightOfThePanels()
+{
+    QFETCH(int, mode);
+    QFETCH(int, height);
+    profile().mode = mode;
+    m_page->updateUi(2);
+    m_page->resize(784, height);
+    const int legend = find<QWidget>("m_stateWid")->height();
+    const int board = mode == 0 ? int(height * 0.6) : qMax(0, height - legend);
+    QCOMPARE(find<QWidget>("m_assignWid")->height(), board);
+    const int room = height - board - legend;
+    const int expected = room >= height / 2 ? room - room / 3 : room;
+    QCOMPARE(find<QWidget>("m_mapWid")->maximumHeight(), qMax(0, expected));
+    QCOMPARE(find<QWidget>("m_mapWid")->minimumHeight(), qMax(0, expected));
+}
+
+void tst_VantrixMapWid::advancedGeometry()
+{
+    profile().mode = 1;
+    m_page->updateUi(2);
+    m_page->resize(1500, 900);
+    const int legend = find<QWidget>("m_stateWid")->height();
+    const QSize board(500, 900 - legend);
+    QCOMPARE(find<QWidget>("m_assignWid")->size(), board);
+    const int menu = int(board.height() * 0.35);
+    QCOMPARE(find<QWidget>("m_assignMenuWid")->geometry(),
+             QRect(975, int(board.height() * 0.95 - menu), 250, menu));
+}
+
+void tst_VantrixMapWid::sizeStaysAsGiven_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("way");
+    for (const QSize size : {QSize(784, 808), QSize(1500, 900)}) {
+        for (int way = 0; way < 3; ++way)
+            QTest::addRow("%d wide, way %d", size.width(), way) << size << way;
+    }
+}
+
+void tst_VantrixMapWid::sizeStaysAsGiven()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, way);
+    QWidget host;
+    VantrixMapWid page(5, way == 0 ? nullptr : &host);
+    QWidget *const outer = way == 0 ? &page : &host;
+    if (way == 1) {
+        auto *const layout = new QVBoxLayout(&host);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(&page);
+    }
+    outer->resize(size);
+    page.resize(size);
+    outer->show();
+    page.updateUi(2);
+    for (int pass = 0; pass < 50; ++pass) {
+        QCoreApplication::processEvents();
+        QCOMPARE(page.size(), size);
+        QCOMPARE(outer->size(), size);
+    }
+    QThreadPool::globalInstance()->waitForDone();
+}
+
+void tst_VantrixMapWid::anySize()
+{
+    for (int mode : {0, 1}) {
+        profile().mode = mode;
+        m_page->updateUi(2);
+        key(7)->click();
+        for (const QSize size : {QSize(0, 0), QSize(1, 1), QSize(10, 2000), QSize(4000, 10),
+                                 QSize(320, 240), QSize(4000, 3000)}) {
+            m_page->resize(size);
+            QCoreApplication::processEvents();
+            QCOMPARE(m_page->size(), size);
+        }
+    }
+}
+
+void tst_VantrixMapWid::updateUiShowsTheProfile()
+{
+    profile(3).keys[7] = plainKey(5);
+    profile(3).mode = 1;
+    m_store->pressoEnabled = false;
+    m_page->updateUi(3);
+    QCOMPARE(key(7)->text(), QString("B"));
+    QVERIFY(find<QPushButton>("m_advanced")->isChecked());
+    QVERIFY(find<QWidget>("m_inputWid")->isHidden());
+    QVERIFY(find<QWidget>("m_mapWid")->isHidden());
+    QVERIFY(find<QPushButton>("m_off")->isChecked());
+    profile(3).mode = 0;
+    m_page->updateUi(3);
+    QVERIFY(!find<QWidget>("m_inputWid")->isHidden());
+    QVERIFY(!find<QWidget>("m_mapWid")->isHidden());
+}
+
+void tst_VantrixMapWid::updateUiOrder()
+{
+    profile(3).input = 1;
+    m_page->updateUi(3);
+    // Only the new profile is asked for.
+    QCOMPARE(m_store->calls().filter(" 5 2"), QStringList());
+    QCOMPARE(m_store->writes(), QStringList({"setInput 5 3 1", "clearCurrentKey 5 3"}));
+    const QStringList calls = m_store->calls();
+    QVERIFY(calls.indexOf("getMode 5 3") < calls.indexOf("setInput 5 3 1"));
+    QVERIFY(calls.indexOf("setInput 5 3 1") < calls.indexOf("getKeyMappings 5 3"));
+    QVERIFY(calls.indexOf("getKeyMappings 5 3") < calls.indexOf("getPressoEnabled"));
+    QCOMPARE(find<QStackedWidget>("m_map")->currentIndex(), 1);
+}
+
+void tst_VantrixMapWid::updateKeyMappingReadsAnew()
+{
+    key(3)->click();
+    profile().keys[7] = plainKey(5);
+    profile().hotKeys[8] = {0, "F1", "Help"};
+    m_page->updateKeyMapping();
+    QCOMPARE(key(7)->text(), QString("B"));
+    QCOMPARE(key(8)->text(), QString("Help"));
+    QVERIFY(!key(3)->isChecked());
+    profile().hotKeys.clear();
+    m_page->updateKeyMapping();
+    QVERIFY(key(8)->text() != QString("Help"));
+}
+
+void tst_VantrixMapWid::modeClick()
+{
+    click("m_advanced");
+    QCOMPARE(m_store->writes(), QStringList({"setMode 5 2 1"}));
+    QVERIFY(find<QWidget>("m_inputWid")->isHidden());
+    QVERIFY(find<QWidget>("m_mapWid")->isHidden());
+    click("m_simple");
+    QVERIFY(!find<QWidget>("m_mapWid")->isHidden());
+    QCOMPARE(profile().mode, 0);
+}
+
+void tst_VantrixMapWid::sameModeClickWritesNothing()
+{
+    const QRect before = find<QWidget>("m_mapWid")->geometry();
+    click("m_simple");
+    QCOMPARE(m_store->writes(), QStringList());
+    QCOMPARE(find<QWidget>("m_mapWid")->geometry(), before);
+}
+
+void tst_VantrixMapWid::inputClick()
+{
+    const auto *const group = find<QWidget>("m_inputWid")->findChild<QButtonGroup *>();
+    group->button(4)->click();
+    QCOMPARE(m_store->writes(), QStringList({"setInput 5 2 4"}));
+    QCOMPARE(find<QStackedWidget>("m_map")->currentIndex(), 4);
+    QVERIFY(key(24)->isHidden());
+    group->button(0)->click();
+    QVERIFY(!key(24)->isHidden());
+}
+
+void tst_VantrixMapWid::sidePanelRule_data()
+{
+    QTest::addColumn<int>("way");
+    QTest::newRow("click on the input") << 0;
+    QTest::newRow("updateUi") << 1;
+    QTest::newRow("back from advanced mode") << 2;
+}
+
+void tst_VantrixMapWid::sidePanelRule()
+{
+    QFETCH(int, way);
+    QWidget *const side = find<QWidget>("m_sidePanelWid");
+    const auto *const group = find<QWidget>("m_inputWid")->findChild<QButtonGroup *>();
+    QVERIFY(side->isHidden());
+    if (way == 0) {
+        group->button(10)->click();
+    } else {
+        profile().input = 10;
+        profile().mode = way == 2;
+        m_page->updateUi(2);
+    }
+    if (way == 2) {
+        QVERIFY(side->isHidden());
+        click("m_simple");
+    }
+    QVERIFY(!side->isHidden());
+    click("m_advanced");
+    QVERIFY(side->isHidden());
+    click("m_simple");
+    group->button(1)->click();
+    QVERIFY(side->isHidden());
+}
+
+void tst_VantrixMapWid::menuRule()
+{
+    QWidget *const menu = find<QWidget>("m_assignMenuWid");
+    key(3)->click();
+    QVERIFY(menu->isHidden());
+    click("m_advanced");
+    QVERIFY(!menu->isHidden());
+    key(3)->click();
+    QVERIFY(menu->isHidden());
+    key(4)->click();
+    QVERIFY(!menu->isHidden());
+    click("m_apply");
+    QVERIFY(menu->isHidden());
+    key(4)->click();
+    m_page->updateUi(2);
+    QVERIFY(menu->isHidden());
+    key(4)->click();
+    QVERIFY(!menu->isHidden());
+    m_page->updateKeyMapping();
+    QVERIFY(menu->isHidden());
+    key(4)->click();
+    click("m_simple");
+    QVERIFY(menu->isHidden());
+}
+
+void tst_VantrixMapWid::captureRule()
+{
+    const auto *const group = find<QWidget>("m_inputWid")->findChild<QButtonGroup *>();
+    QVERIFY(!isCapturing());
+    key(3)->click();
+    QVERIFY(isCapturing());
+    key(4)->click();
+    QVERIFY(isCapturing());
+    key(4)->click();
+    QVERIFY(!isCapturing());
+    key(4)->click();
+    group->button(1)->click();
+    QVERIFY(!isCapturing());
+    group->button(0)->click();
+    QVERIFY(isCapturing());
+    m_page->showMapping(false);
+    QVERIFY(!isCapturing());
+    m_page->showMapping(true);
+    QVERIFY(isCapturing());
+    click("m_advanced");
+    QVERIFY(!isCapturing());
+    m_page->showMapping(true);
+    QVERIFY(!isCapturing());
+    click("m_simple");
+    QVERIFY(isCapturing());
+    m_page->updateUi(2);
+    QVERIFY(!isCapturing());
+    key(3)->click();
+    m_page->updateKeyMapping();
+    QVERIFY(!isCapturing());
+}
+
+void tst_VantrixMapWid::captureEndsWithApply()
+{
+    key(3)->click();
+    click("m_apply");
+    QVERIFY(!isCapturing());
+    QVERIFY(!key(3)->isChecked());
+}
+
+void tst_VantrixMapWid::presets_data()
+{
+    QTest::addColumn<int>("input");
+    QTest::addColumn<int>("preset");
+    const int inputs[] = {0, 0, 0, 4, 4, 4, 5, 5, 5};
+    for (int preset = 0; preset < 9; ++preset)
+        QTest::addRow("preset %d", preset) << inputs[preset] << preset;
+}
+
+void tst_VantrixMapWid::presets()
+{
+    QFETCH(int, input);
+    QFETCH(int, preset);
+    profile().hotKeys[24] = {0, "F1", "Help"};
+    profile().macros[25] = "one";
+    profile().shortcuts[26] = 3;
+    m_page->updateUi(2);
+    m_store->clearLog();
+    m_page->slotPanelChanged(input, preset);
+    const QStringList writes = m_store->writes();
+    QCOMPARE(writes.at(0), QString("clearAssignsForPreset 5 2"));
+    QCOMPARE(writes.at(1), QString("clearNamedMacros 5 2"));
+    QCOMPARE(writes.at(2), QString("setInput 5 2 %1").arg(input));
+    QCOMPARE(writes.last(), QString("setPanel 5 2 %1").arg(preset));
+    QCOMPARE(profile().input, input);
+    QCOMPARE(profile().panel, preset);
+    QVERIFY(profile().hotKeys.empty());
+    QVERIFY(profile().macros.empty());
+    QVERIFY(profile().shortcuts.empty());
+    QCOMPARE(profile().apps.size(), std::size_t(input == 5 ? 19 : 0));
+    QVERIFY(profile().dirty);
+}
+
+void tst_VantrixMapWid::presetAfterPreset()
+{
+    const int inputs[] = {0, 0, 0, 4, 4, 4, 5, 5, 5};
+    for (int second = 0; second < 9; ++second) {
+        profile(100 + second) = {};
+        m_page->updateUi(100 + second);
+        m_page->slotPanelChanged(inputs[second], second);
+        const FakeProfileCfg::Profile alone = profile(100 + second);
+        QStringList faces;
+        for (int index = 0; index < 28; ++index)
+            faces << key(index)->text() + key(index)->styleSheet();
+        for (int first = 0; first < 9; ++first) {
+            profile(200) = {};
+            m_page->updateUi(200);
+            m_page->slotPanelChanged(inputs[first], first);
+            m_page->slotPanelChanged(inputs[second], second);
+            const FakeProfileCfg::Profile &both = profile(200);
+            QVERIFY(both.keys == alone.keys);
+            QVERIFY(both.apps == alone.apps);
+            QVERIFY(both.extended == alone.extended);
+            QStringList after;
+            for (int index = 0; index < 28; ++index)
+                after << key(index)->text() + key(index)->styleSheet();
+            QCOMPARE(after, faces);
+        }
+    }
+}
+
+void tst_VantrixMapWid::pressureSwitch()
+{
+    QSignalSpy request(m_page, &VantrixMapWid::sigSdkRequest);
+    click("m_on");
+    QCOMPARE(request.count(), 0);
+    QCOMPARE(m_store->writes(), QStringList());
+    click("m_off");
+    QCOMPARE(request.count(), 1);
+    QCOMPARE(request.at(0).at(0).toInt(), 23);
+    QCOMPARE(request.at(0).at(1).value<void *>(), nullptr);
+    QCOMPARE(m_store->writes(), QStringList({"setPressoEnabled 0"}));
+    QVERIFY(!m_store->pressoEnabled);
+}
+
+void tst_VantrixMapWid::apply()
+{
+    QStringList told;
+    connect(m_page, &VantrixMapWid::sigUpdateKeyMapping, this, [&] {
+        QVERIFY(key(3)->isChecked());
+        told << "keys";
+    });
+    connect(m_page, &VantrixMapWid::sigUpdateMacroAssign, this, [&] { told << "macros"; });
+    key(3)->click();
+    m_store->clearLog();
+    click("m_apply");
+    QCOMPARE(told, QStringList({"keys", "macros"}));
+    QCOMPARE(m_store->writes(), QStringList({"clearCurrentKey 5 2"}));
+    QVERIFY(!key(3)->isChecked());
+}
+
+void tst_VantrixMapWid::reset()
+{
+    int request = 0;
+    m_parse->answer = &request;
+    m_answer = 1;
+    QSignalSpy told(m_page, &VantrixMapWid::sigSdkRequest);
+    click("m_reset");
+    QCOMPARE(m_asked, QStringList({"Reset|Are you sure you want to reset?"}));
+    QCOMPARE(m_parse->ids, QVector<int>({2}));
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(told.at(0).at(0).toInt(), 5);
+    QCOMPARE(told.at(0).at(1).value<void *>(), static_cast<void *>(&request));
+    QCOMPARE(m_store->writes(), QStringList());
+}
+
+void tst_VantrixMapWid::resetDeclined()
+{
+    QSignalSpy told(m_page, &VantrixMapWid::sigSdkRequest);
+    click("m_reset");
+    QCOMPARE(m_asked.size(), 1);
+    QCOMPARE(told.count(), 0);
+    QVERIFY(m_parse->ids.isEmpty());
+    QCOMPARE(m_store->writes(), QStringList());
+}
+
+void tst_VantrixMapWid::macros()
+{
+    profile().macros[7] = "one";
+    m_page->slotAddKeyAssignMacro("one");
+    m_page->slotAddKeyAssignMacro("two");
+    m_page->updateKeyMapping();
+    QCOMPARE(key(7)->toolTip(), QString("one"));
+    m_page->slotRenameKeyAssignMacro("one", "eins");
+    QCOMPARE(key(7)->toolTip(), QString("eins"));
+}
+
+void tst_VantrixMapWid::deletedMacro()
+{
+    m_page->slotAddKeyAssignMacro("one");
+    profile().macros[7] = "one";
+    m_page->updateKeyMapping();
+    QSignalSpy told(m_page, &VantrixMapWid::sigUpdateKeyMapping);
+    m_store->clearLog();
+    m_page->slotDelKeyAssignMacro("one");
+    const QStringList writes = m_store->writes();
+    QCOMPARE(writes, QStringList({"setKeyMapping 5 2 7", "setProfileDirty 5 2 1",
+                                  "delNamedMacro 5 2 one"}));
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(profile().keys.at(7), plainKey(255));
+    m_page->slotDelKeyAssignMacro("never heard of");
+    QCOMPARE(told.count(), 1);
+}
+
+void tst_VantrixMapWid::updateMacroAssign()
+{
+    m_page->slotAddKeyAssignMacro("one");
+    profile().macros[7] = "one";
+    m_page->updateKeyMapping();
+    const QString text = key(7)->text();
+    QSignalSpy told(m_page, &VantrixMapWid::sigUpdateKeyMapping);
+    m_page->slotUpdateMacroAssign();
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(key(7)->text(), text);
+    profile().macros.clear();
+    m_page->slotUpdateMacroAssign();
+    QVERIFY(key(7)->text() != text);
+}
+
+void tst_VantrixMapWid::winShortcutKeys()
+{
+    profile().shortcuts[7] = 2;
+    m_page->updateUi(2);
+    QCOMPARE(key(7)->text(), QString("M3"));
+    m_store->shortcutBase = 5;
+    m_page->slotUpdateWinShortcutKeys();
+    QCOMPARE(key(7)->text(), QString("M8"));
+}
+
+void tst_VantrixMapWid::wholeRoadInSimpleMode()
+{
+    QSignalSpy told(m_page, &VantrixMapWid::sigUpdateKeyMapping);
+    key(7)->click();
+    click("btn_48");
+    QCOMPARE(key(7)->text(), QString("B"));
+    QCOMPARE(profile().keys.at(7), plainKey(5));
+    QVERIFY(profile().dirty);
+    QCOMPARE(told.count(), 0);
+    click("m_apply");
+    QCOMPARE(told.count(), 1);
+    // A second click on the same function clears the key.
+    key(7)->click();
+    QVERIFY(find<QPushButton>("btn_48")->isChecked());
+    click("btn_48");
+    QCOMPARE(profile().keys.at(7), plainKey(255));
+}
+
+void tst_VantrixMapWid::hiding()
+{
+    QSignalSpy told(m_page, &VantrixMapWid::sigHide);
+    m_page->hide();
+    QCOMPARE(told.count(), 1);
+}
+
+void tst_VantrixMapWid::relays()
+{
+    QStringList told;
+    connect(m_page, &VantrixMapWid::sigMeridianKeyInfo, this, [&](QString &info, int scan) {
+        told << QString("info %1").arg(scan);
+        info = "NORTH";
+    });
+    connect(m_page, &VantrixMapWid::deleteMeridianKey, this,
+            [&](int scan) { told << QString("meridian %1").arg(scan); });
+    connect(m_page, &VantrixMapWid::deletePowerModeKey, this,
+            [&](int scan) { told << QString("power %1").arg(scan); });
+    profile().keys[11] = plainKey(0xC5);
+    profile().keys[12] = plainKey(0xC1);
+    m_page->updateUi(2);
+    QCOMPARE(key(11)->text(), QString("NORTH"));
+    profile().keys[11] = profile().keys[12] = plainKey(5);
+    m_page->updateUi(2);
+    QCOMPARE(told, QStringList({"info 30", "meridian 30", "power 31"}));
+}
+
+void tst_VantrixMapWid::pageMayDieInAWarning()
+{
+    profile().apps[7] = {0, 11, {}};
+    profile().apps[8] = {1, 6, {}};
+    Modal::setAnswerer([this](const ModalPrompt &) {
+        delete m_page;
+        m_page = nullptr;
+        return QVariant(0);
+    });
+    m_page->updateUi(2);
+    QVERIFY(!m_page);
+}
+
+VANTRIX_TEST_MAIN(tst_VantrixMapWid)
+#include "tst_VantrixMapWid.moc"

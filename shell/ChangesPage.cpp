@@ -49,9 +49,9 @@ int keyOf(const QTreeWidgetItem *item)
 
 ChangesPage::ChangesPage(ShellContext &context, QWidget *parent)
     : QWidget(parent), m_context(context), m_summary(new QLabel(this)),
-      m_changes(new QWidget(this)), m_putBack(new QPushButton(tr("Put Back"), this)),
-      m_putBackAll(new QPushButton(tr("Put All Back"), this)),
-      m_apply(new QPushButton(tr("Apply"), this)), m_deviceLab(new QLabel(this))
+      m_changes(new QWidget(this)), m_putBack(new QPushButton(tr("PUT BACK"), this)),
+      m_putBackAll(new QPushButton(tr("PUT ALL BACK"), this)),
+      m_apply(new QPushButton(tr("APPLY"), this)), m_deviceLab(new QLabel(this))
 {
     setObjectName(QStringLiteral("m_changesPage"));
     setStyleSheet(ShellStyle::panelSheet());

@@ -98,10 +98,14 @@ void MappingView::connectStore()
 
 void MappingView::showProfile(int profile, int keyIdx)
 {
+    m_page->showMapping(false);
     m_page->updateUi(profile);
     tellMacros();
     m_context.setProfile(profile);
     m_marks->setKeys(m_marked, profile);
+    // A selection that the user did not make does not take the keyboard: the key that asked for it
+    // (of an undo, say) is still down.
+    m_isFocusInside = false;
     selectKey(keyIdx);
     updateCapture();
 }

@@ -16,7 +16,7 @@ MessageBar::MessageBar(QWidget *parent) : QWidget(parent), m_text(new QLabel(thi
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto *close = new QPushButton(tr("Dismiss"), this);
+    auto *close = new QPushButton(tr("DISMISS"), this);
     close->setObjectName(QStringLiteral("m_dismissBtn"));
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 6, 12, 6);

@@ -163,13 +163,13 @@ QWidget *ProfileList::makeButtons()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(4);
     QToolButton *const copy =
-        addButton(tr("Copy"), tr("Copy this profile over another one"), "m_duplicateBtn");
+        addButton(tr("COPY"), tr("Copy this profile over another one"), "m_duplicateBtn");
     auto *targets = new QMenu(copy);
     connect(targets, &QMenu::aboutToShow, this, [this, targets] { fillTargets(targets); });
     copy->setMenu(targets);
     copy->setPopupMode(QToolButton::InstantPopup);
     QToolButton *const empty =
-        addButton(tr("Clear"), tr("Take everything off the keys of this profile"), "m_clearBtn");
+        addButton(tr("CLEAR"), tr("Take everything off the keys of this profile"), "m_clearBtn");
     QToolButton *const up = addButton(QStringLiteral("▲"), tr("Move up (Alt+Up)"), "m_upBtn");
     QToolButton *const down =
         addButton(QStringLiteral("▼"), tr("Move down (Alt+Down)"), "m_downBtn");
@@ -338,11 +338,11 @@ bool ProfileList::isUnused(int profile) const
 
 void ProfileList::duplicate()
 {
-    const std::vector<int> order = m_context.store().state().profileOrder(m_context.owner());
+    std::vector<int> order = m_context.store().state().profileOrder(m_context.owner());
     const int from = m_context.profile();
-    const auto free = std::find_if(order.begin(), order.end(), [this, from](int profile) {
-        return profile != from && isUnused(profile);
-    });
+    std::rotate(order.begin(), std::find(order.begin(), order.end(), from), order.end());
+    const auto free = std::find_if(order.begin() + 1, order.end(),
+                                   [this](int profile) { return isUnused(profile); });
     if (free == order.end())
         emit m_context.status(tr("All profiles are in use: choose one to copy over."));
     else

@@ -85,7 +85,7 @@ void SettingsDlg::fillLanguages()
 QWidget *SettingsDlg::makePathRow(QLineEdit *edit, const std::function<QString()> &browse)
 {
     auto *row = new QWidget(this);
-    auto *button = new QPushButton(tr("Browse..."), row);
+    auto *button = new QPushButton(tr("BROWSE"), row);
     auto *layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(edit, 1);

@@ -43,6 +43,19 @@ void setWholeText(QLabel *label, const QString &text)
     Common::SetText(label, text);
 }
 
+void colorLabel(QLabel *label, int iState, const QString &strImage)
+{
+    // An address with nothing in it makes Qt complain.
+    const QString image = strImage.isEmpty()
+                              ? QString()
+                              : QStringLiteral("image:url(") + strImage + QStringLiteral(");");
+    setSheet(label, QStringLiteral("border:none;background:") + colorName(iState) +
+                        QStringLiteral(";") + image + QStringLiteral("min-height:18px;"));
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, readableOn(inputColor(iState)));
+    label->setPalette(palette);
+}
+
 /// A record of type 3 without a first action is how a dual action is taken off a key.
 vantrix_key_mapping assignable(const vantrix_key_mapping &key)
 {
@@ -147,8 +160,10 @@ void AssignMenuWid::slotApplicationSelected(int iAppType, int iFuncId)
 {
     Q_UNUSED(iAppType)
     Q_UNUSED(iFuncId)
-    m_iState = InputType::Application;
     m_strMacroNo.clear();
+    m_iState = InputType::Application;
+    colorFrame();
+    colorLabel(m_ui->m_assignLab, m_iState, QString());
     m_ui->m_dualActionLab->hide();
     reveal();
 }
@@ -286,7 +301,10 @@ void AssignMenuWid::takeLabel(int iState, const QString &strText)
 
 void AssignMenuWid::showMapping(int iState, ushort code, QLabel *lab)
 {
-    applyState(iState, imageOfState(iState, code), mappingText(iState, code), lab);
+    const QString image = imageOfState(iState, code);
+    applyState(iState, image, mappingText(iState, code), lab);
+    if (!image.isEmpty())
+        lab->setAccessibleName(keyLegendOfCode(code));
 }
 
 QString AssignMenuWid::mappingText(int iState, ushort code) const
@@ -300,19 +318,17 @@ QString AssignMenuWid::mappingText(int iState, ushort code) const
 void AssignMenuWid::applyState(int iState, const QString &strImage, const QString &strText,
                                QLabel *lab)
 {
-    setSheet(m_ui->m_keyLab, QStringLiteral("background:transparent;border:1px solid ") +
-                                 colorName(m_iState) + QStringLiteral(";min-height:37px;"));
-    // An address with nothing in it makes Qt complain.
-    const QString image = strImage.isEmpty()
-                              ? QString()
-                              : QStringLiteral("image:url(") + strImage + QStringLiteral(");");
-    setSheet(lab, QStringLiteral("border:none;background:") + colorName(iState) +
-                      QStringLiteral(";") + image + QStringLiteral("min-height:18px;"));
-    QPalette palette = lab->palette();
-    palette.setColor(QPalette::WindowText, readableOn(inputColor(iState)));
-    lab->setPalette(palette);
+    colorFrame();
+    colorLabel(lab, iState, strImage);
     // Texts of buttons double their ampersands; a label shows both.
     setWholeText(lab, QString(strText).replace(QLatin1String("&&"), QLatin1String("&")));
+    lab->setAccessibleName(QString());
+}
+
+void AssignMenuWid::colorFrame()
+{
+    setSheet(m_ui->m_keyLab, QStringLiteral("background:transparent;border:1px solid ") +
+                                 colorName(m_iState) + QStringLiteral(";min-height:37px;"));
 }
 
 void AssignMenuWid::showDualActionLab()

@@ -88,6 +88,7 @@ private:
     void showMapping(int iState, ushort code, QLabel *lab);
     QString mappingText(int iState, ushort code) const;
     void applyState(int iState, const QString &strImage, const QString &strText, QLabel *lab);
+    void colorFrame();
     void showDualActionLab();
     void reveal();
 

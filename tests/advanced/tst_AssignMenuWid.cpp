@@ -1,59 +1,14 @@
-#include "advanced/AdvAssignWid.h"
-#include "advanced/AssignMenuWid.h"
-#include "advanced/ReassignDlg.h"
-#include "application/ApplicationAdvWid.h"
-#include "dualaction/DualActionAdvWid.h"
-#include "fakes/FakeProfileCfg.h"
-#include "fakes/FakeServices.h"
-#include "interfaces/Modal.h"
-#include "macro/MacroAdvWid.h"
-#include "support/Gestures.h"
+#include "MenuRig.h"
 #include "support/TestMain.h"
 
-#include <QLabel>
-#include <QPushButton>
-#include <QStackedWidget>
-
-#include <memory>
-
-namespace {
-
-vantrix_key_mapping dualKey(ushort first, ushort second)
-{
-    vantrix_key_mapping key;
-    key.type = 3;
-    key.digital.firstAction = first;
-    key.digital.secondAction = second;
-    key.digital.depth = 50;
-    return key;
-}
-
-QString frameOf(const QString &color)
-{
-    return "background:transparent;border:1px solid " + color + ";min-height:37px;";
-}
-
-QString fillOf(const QString &color, const QString &image = QString())
-{
-    const QString rule = image.isEmpty() ? QString() : "image:url(" + image + ");";
-    return "border:none;background:" + color + ";" + rule + "min-height:18px;";
-}
-
-vantrix_key_mapping recordAt(const QSignalSpy &spy, int call)
-{
-    return spy.at(call).at(0).value<vantrix_key_mapping>();
-}
-
-} // namespace
-
-class tst_AssignMenuWid : public QObject
+class tst_AssignMenuWid : public MenuRig
 {
     Q_OBJECT
 
 private slots:
     void initTestCase() { registerRecordTypes(); }
-    void init();
-    void cleanup();
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
 
     void hasItsTexts();
     void namesTheKey_data();
@@ -65,90 +20,19 @@ private slots:
     void dualActionIsLeftToItsOwnSlot();
     void dualActionWithoutFirstActionIsUnassigned();
     void showsLabels();
+    void picturesHaveNames();
     void selectionSlotsHideTheSecondLabel();
     void updateLeavesTheSecondLabel();
     void revealsInAdvancedModeOnly();
     void comesBackAfterBeingHidden();
     void clears();
     void disables();
-    void opensOnThePageOfTheState_data();
-    void opensOnThePageOfTheState();
-    void opensTheModes();
-    void passesOnARecord();
-    void passesOnADualAction();
-    void passesOnTheEndOfADualAction();
-    void passesOnAMacro();
-    void passesOnAHotKey();
-    void asksForANewMacro();
-    void applyWithoutAPickLeavesALabelledKey();
-    void applyWithoutAPickSendsARecordAgain();
-    void aMacroPickIsTheKeysFunctionFromThenOn();
     void setsASheetOnlyWhenItChanges();
     void takesTheSizeItIsGiven_data();
     void takesTheSizeItIsGiven();
     void elidesToItsWidth();
-    void outlivesTheMainWidget();
-    void dialogDiesWithTheMenu();
-    void menuDestroyedWhileTheDialogIsOpen();
-    void mainWidgetDestroyedWhileTheDialogIsOpen();
-    void menuDestroyedByThePick();
-    void worksWithoutAMainWidget();
     void tabOrderFollowsReading();
-
-private:
-    QLabel *label(const char *name) const { return child<QLabel>(m_menu.get(), name); }
-    QPushButton *button(const char *name) const { return child<QPushButton>(m_menu.get(), name); }
-    ReassignDlg *dialog() const { return m_main->findChild<ReassignDlg *>(); }
-    void select(int keyIdx, const vantrix_key_mapping &key);
-    /// Opens the dialog with a button of the menu; `user` acts in it and APPLY follows.
-    void applyAfter(const char *name, const std::function<void(QObject *dialog)> &user);
-
-    std::unique_ptr<FakeProfileCfg> m_store;
-    std::unique_ptr<FakeEnvironment> m_environment;
-    std::unique_ptr<QWidget> m_main;
-    std::unique_ptr<AssignMenuWid> m_menu;
 };
-
-void tst_AssignMenuWid::init()
-{
-    m_store = std::make_unique<FakeProfileCfg>();
-    m_environment = std::make_unique<FakeEnvironment>();
-    m_main = std::make_unique<QWidget>();
-    m_main->resize(1280, 800);
-    m_environment->mainWidget = m_main.get();
-    m_menu = std::make_unique<AssignMenuWid>(m_main.get());
-    m_menu->hide();
-    m_main->show();
-}
-
-void tst_AssignMenuWid::cleanup()
-{
-    Modal::setAnswerer(nullptr);
-    m_menu.reset();
-    m_main.reset();
-    m_environment.reset();
-    m_store.reset();
-}
-
-void tst_AssignMenuWid::select(int keyIdx, const vantrix_key_mapping &key)
-{
-    m_menu->slotKeySelectionChanged(keyIdx);
-    m_menu->slotVantrixKeySelected(key);
-}
-
-void tst_AssignMenuWid::applyAfter(const char *name,
-                                   const std::function<void(QObject *dialog)> &user)
-{
-    int opened = 0;
-    Modal::setAnswerer([&](const ModalPrompt &prompt) {
-        ++opened;
-        user(prompt.dialog);
-        child<QPushButton>(prompt.dialog, "m_apply")->click();
-        return QVariant(1);
-    });
-    button(name)->click();
-    QCOMPARE(opened, 1);
-}
 
 void tst_AssignMenuWid::hasItsTexts()
 {
@@ -307,8 +191,21 @@ void tst_AssignMenuWid::showsLabels()
     QCOMPARE(label("m_assignLab")->styleSheet(), fillOf("#ffffff00"));
     QCOMPARE(label("m_assignLab")->text(), QString("Save As"));
 
+    select(11, labelled);
     m_menu->slotApplicationSelected(0, 3);
-    QCOMPARE(label("m_assignLab")->text(), QString("Save As"));
+    QCOMPARE(label("m_keyLab")->styleSheet(), frameOf("#ffffff00"));
+    QCOMPARE(label("m_assignLab")->styleSheet(), fillOf("#ffffff00"));
+    QCOMPARE(label("m_assignLab")->text(), QString("A"));
+}
+
+void tst_AssignMenuWid::picturesHaveNames()
+{
+    select(0, plainKey(240));
+    QCOMPARE(label("m_assignLab")->accessibleName(), QString("PLAY/PAUSE"));
+    select(0, gameKey(462));
+    QCOMPARE(label("m_assignLab")->accessibleName(), QString("A BUTTON"));
+    select(0, plainKey(4));
+    QCOMPARE(label("m_assignLab")->accessibleName(), QString());
 }
 
 void tst_AssignMenuWid::selectionSlotsHideTheSecondLabel()
@@ -396,208 +293,6 @@ void tst_AssignMenuWid::disables()
     QVERIFY(!label("m_dualActionLab")->isHidden());
 }
 
-void tst_AssignMenuWid::opensOnThePageOfTheState_data()
-{
-    QTest::addColumn<int>("keyIdx");
-    QTest::addColumn<vantrix_key_mapping>("key");
-    QTest::addColumn<int>("page");
-    QTest::newRow("keyboard") << 0 << plainKey(4) << 0;
-    QTest::newRow("mouse") << 0 << plainKey(496) << 1;
-    QTest::newRow("media") << 0 << plainKey(240) << 2;
-    QTest::newRow("controller") << 0 << gameKey(462) << 4;
-    QTest::newRow("presso") << 0 << plainKey(312) << 7;
-    QTest::newRow("backlight") << 0 << plainKey(385) << 8;
-    QTest::newRow("profile") << 0 << plainKey(1536) << 9;
-    QTest::newRow("disabled") << 0 << plainKey(0) << 0;
-    QTest::newRow("unassigned") << 0 << plainKey(255) << 0;
-    QTest::newRow("upper") << 24 << plainKey(240) << 2;
-}
-
-void tst_AssignMenuWid::opensOnThePageOfTheState()
-{
-    QFETCH(int, keyIdx);
-    QFETCH(vantrix_key_mapping, key);
-    QFETCH(int, page);
-    select(keyIdx, key);
-    applyAfter("m_reassignKey", [&](QObject *opened) {
-        QCOMPARE(opened, dialog());
-        QCOMPARE(child<QStackedWidget>(opened, "m_stacked")->currentIndex(), page);
-        QCOMPARE(child<QLabel>(opened, "m_keyNo")->text(), QString(keyIdx == 24 ? "25" : "01"));
-    });
-}
-
-void tst_AssignMenuWid::opensTheModes()
-{
-    const auto pageIs = [](int page) {
-        return [page](QObject *opened) {
-            QCOMPARE(child<QStackedWidget>(opened, "m_stacked")->currentIndex(), page);
-        };
-    };
-    select(0, plainKey(4));
-    applyAfter("m_controllerMode", pageIs(4));
-    applyAfter("m_dualActionMode", pageIs(6));
-    m_menu->slotMacroSelected("M2");
-    applyAfter("m_reassignKey", pageIs(3));
-    m_menu->slotApplicationSelected(0, 1);
-    applyAfter("m_reassignKey", pageIs(5));
-    m_menu->slotDualActionSelected(dualKey(4, 5));
-    applyAfter("m_reassignKey", pageIs(6));
-}
-
-void tst_AssignMenuWid::passesOnARecord()
-{
-    QSignalSpy assigned(m_menu.get(), &AssignMenuWid::sigVantrixKeyAssigned);
-    m_menu->slotKeySelectionChanged(0);
-    m_menu->slotDualActionSelected(dualKey(4, 5));
-    applyAfter("m_reassignKey", [](QObject *opened) {
-        emit child<AdvAssignWid>(opened, "m_mouse")->sigKeyChanged(plainKey(496));
-    });
-    QCOMPARE(assigned.count(), 1);
-    QCOMPARE(recordAt(assigned, 0), plainKey(496));
-    QCOMPARE(label("m_keyLab")->styleSheet(), frameOf("#fff6941d"));
-    QVERIFY(label("m_dualActionLab")->isHidden());
-}
-
-void tst_AssignMenuWid::passesOnADualAction()
-{
-    QSignalSpy assigned(m_menu.get(), &AssignMenuWid::sigVantrixKeyAssigned);
-    select(0, plainKey(4));
-    applyAfter("m_dualActionMode", [](QObject *opened) {
-        emit child<DualActionAdvWid>(opened, "m_dualAction")->sigDualActionChanged(dualKey(5, 6));
-    });
-    QCOMPARE(assigned.count(), 1);
-    QCOMPARE(recordAt(assigned, 0), dualKey(5, 6));
-    QCOMPARE(label("m_keyLab")->styleSheet(), frameOf("#ff3cb878"));
-    QCOMPARE(label("m_assignLab")->text(), QString("B"));
-    QCOMPARE(label("m_dualActionLab")->text(), QString("C"));
-    QVERIFY(!label("m_dualActionLab")->isHidden());
-}
-
-void tst_AssignMenuWid::passesOnTheEndOfADualAction()
-{
-    QSignalSpy assigned(m_menu.get(), &AssignMenuWid::sigVantrixKeyAssigned);
-    m_menu->slotKeySelectionChanged(11);
-    m_menu->slotDualActionSelected(dualKey(5, 6));
-    applyAfter("m_dualActionMode", [](QObject *opened) {
-        emit child<DualActionAdvWid>(opened, "m_dualAction")->sigDualActionChanged(dualKey(0, 0));
-    });
-    QCOMPARE(assigned.count(), 1);
-    QCOMPARE(recordAt(assigned, 0), plainKey(255));
-    QCOMPARE(label("m_keyLab")->styleSheet(), frameOf("#ff00ff00"));
-    QCOMPARE(label("m_assignLab")->text(), QString("A"));
-    QVERIFY(label("m_dualActionLab")->isHidden());
-}
-
-void tst_AssignMenuWid::passesOnAMacro()
-{
-    QSignalSpy assigned(m_menu.get(), &AssignMenuWid::sigMacroAssigned);
-    QSignalSpy record(m_menu.get(), &AssignMenuWid::sigVantrixKeyAssigned);
-    select(11, plainKey(5));
-    applyAfter("m_reassignKey", [](QObject *opened) {
-        emit child<MacroAdvWid>(opened, "m_macro")->sigMacroAssigned(true, "M3", "Jump", 2);
-    });
-    QCOMPARE(assigned.count(), 1);
-    QCOMPARE(assigned.at(0), (QVariantList{true, "M3", "Jump", 2}));
-    QCOMPARE(label("m_keyLab")->styleSheet(), frameOf("#ffd50681"));
-    QCOMPARE(label("m_assignLab")->text(), QString("M3"));
-
-    applyAfter("m_reassignKey", [](QObject *opened) {
-        emit child<MacroAdvWid>(opened, "m_macro")->sigMacroAssigned(false, "M3", "Jump", 2);
-    });
-    QCOMPARE(assigned.count(), 2);
-    QCOMPARE(assigned.at(1), (QVariantList{false, "M3", "Jump", 2}));
-    QCOMPARE(label("m_keyLab")->styleSheet(), frameOf("#ff00ff00"));
-    QCOMPARE(label("m_assignLab")->text(), QString("A"));
-    QCOMPARE(record.count(), 0);
-}
-
-void tst_AssignMenuWid::passesOnAHotKey()
-{
-    QSignalSpy assigned(m_menu.get(), &AssignMenuWid::sigApplicationAdvAssigned);
-    QSignalSpy record(m_menu.get(), &AssignMenuWid::sigVantrixKeyAssigned);
-    select(11, plainKey(5));
-    applyAfter("m_reassignKey", [](QObject *opened) {
-        emit child<ApplicationAdvWid>(opened, "m_application")
-            ->sigAppHotKeyChanged("CTRL+S", "Save");
-    });
-    QCOMPARE(assigned.count(), 1);
-    QCOMPARE(assigned.at(0), (QVariantList{"CTRL+S", "Save"}));
-    QCOMPARE(label("m_keyLab")->styleSheet(), frameOf("#ffffff00"));
-    QCOMPARE(label("m_assignLab")->text(), QString("Save"));
-
-    applyAfter("m_reassignKey", [](QObject *opened) {
-        emit child<ApplicationAdvWid>(opened, "m_application")->sigAppHotKeyChanged("", "");
-    });
-    QCOMPARE(assigned.count(), 2);
-    QCOMPARE(assigned.at(1), (QVariantList{"", ""}));
-    QCOMPARE(label("m_keyLab")->styleSheet(), frameOf("#ff00ff00"));
-    QCOMPARE(label("m_assignLab")->text(), QString("A"));
-    QCOMPARE(record.count(), 0);
-}
-
-void tst_AssignMenuWid::asksForANewMacro()
-{
-    QSignalSpy asked(m_menu.get(), &AssignMenuWid::sigCreateMacro);
-    emit child<MacroAdvWid>(dialog(), "m_macro")->sigCreateMacro();
-    QCOMPARE(asked.count(), 1);
-}
-
-void tst_AssignMenuWid::applyWithoutAPickLeavesALabelledKey()
-{
-    QSignalSpy record(m_menu.get(), &AssignMenuWid::sigVantrixKeyAssigned);
-    QSignalSpy macro(m_menu.get(), &AssignMenuWid::sigMacroAssigned);
-    QSignalSpy hotKey(m_menu.get(), &AssignMenuWid::sigApplicationAdvAssigned);
-    vantrix_key_mapping labelled = clearedKey();
-    labelled.type = 1;
-    const auto nothing = [](QObject *) {
-    };
-
-    select(0, labelled);
-    m_menu->slotMacroSelected("M1");
-    for (const char *command : {"m_reassignKey", "m_controllerMode", "m_dualActionMode"})
-        applyAfter(command, nothing);
-    select(1, labelled);
-    m_menu->slotApplicationAdvSelected("Copy");
-    applyAfter("m_reassignKey", nothing);
-    select(2, labelled);
-    m_menu->slotApplicationSelected(1, 1);
-    applyAfter("m_reassignKey", nothing);
-    QCOMPARE(record.count() + macro.count() + hotKey.count(), 0);
-}
-
-void tst_AssignMenuWid::applyWithoutAPickSendsARecordAgain()
-{
-    QSignalSpy record(m_menu.get(), &AssignMenuWid::sigVantrixKeyAssigned);
-    const auto nothing = [](QObject *) {
-    };
-    const QVector<vantrix_key_mapping> keys = {plainKey(4), plainKey(0), plainKey(255),
-                                               gameKey(462)};
-    for (const vantrix_key_mapping &key : keys) {
-        select(0, key);
-        applyAfter("m_reassignKey", nothing);
-        QCOMPARE(recordAt(record, record.count() - 1), key);
-    }
-    m_menu->slotDualActionSelected(dualKey(4, 5));
-    applyAfter("m_reassignKey", nothing);
-    QCOMPARE(record.count(), 5);
-    QCOMPARE(recordAt(record, 4), dualKey(4, 5));
-}
-
-void tst_AssignMenuWid::aMacroPickIsTheKeysFunctionFromThenOn()
-{
-    QSignalSpy record(m_menu.get(), &AssignMenuWid::sigVantrixKeyAssigned);
-    select(0, plainKey(4));
-    applyAfter("m_reassignKey", [](QObject *opened) {
-        emit child<MacroAdvWid>(opened, "m_macro")->sigMacroAssigned(true, "M1", "Jump", -1);
-    });
-    applyAfter("m_reassignKey", [](QObject *) {});
-    applyAfter("m_reassignKey", [](QObject *opened) {
-        emit child<ApplicationAdvWid>(opened, "m_application")->sigAppHotKeyChanged("F1", "Help");
-    });
-    applyAfter("m_reassignKey", [](QObject *) {});
-    QCOMPARE(record.count(), 0);
-}
-
 void tst_AssignMenuWid::setsASheetOnlyWhenItChanges()
 {
     select(0, plainKey(4));
@@ -658,69 +353,6 @@ void tst_AssignMenuWid::elidesToItsWidth()
     QCoreApplication::processEvents();
     QCOMPARE(label("m_assignLab")->text(), name);
     QCOMPARE(label("m_assignLab")->toolTip(), QString());
-}
-
-void tst_AssignMenuWid::outlivesTheMainWidget()
-{
-    m_menu->setParent(nullptr);
-    m_menu->setMode(1);
-    m_main.reset();
-    m_menu->setProfile(1, 2);
-    m_menu->addKeyAssignMacro("a");
-    m_menu->renameKeyAssignMacro("a", "b");
-    m_menu->delKeyAssignMacro("b");
-    select(0, plainKey(4));
-    m_menu->slotMacroSelected("M1");
-    button("m_reassignKey")->click();
-    QCOMPARE(label("m_assignLab")->text(), QString("M1"));
-}
-
-void tst_AssignMenuWid::dialogDiesWithTheMenu()
-{
-    const QPointer<ReassignDlg> opened = dialog();
-    QVERIFY(opened);
-    m_menu.reset();
-    QVERIFY(!opened);
-}
-
-void tst_AssignMenuWid::menuDestroyedWhileTheDialogIsOpen()
-{
-    QTimer::singleShot(0, this, [this] {
-        QVERIFY(dialog()->isVisible());
-        m_menu.reset();
-    });
-    button("m_reassignKey")->click();
-    QVERIFY(!m_menu);
-}
-
-void tst_AssignMenuWid::mainWidgetDestroyedWhileTheDialogIsOpen()
-{
-    m_menu.release();
-    QTimer::singleShot(0, this, [this] { m_main.reset(); });
-    child<QPushButton>(m_main.get(), "m_reassignKey")->click();
-    QVERIFY(!m_main);
-}
-
-void tst_AssignMenuWid::menuDestroyedByThePick()
-{
-    connect(m_menu.get(), &AssignMenuWid::sigVantrixKeyAssigned, this, [this] { m_menu.reset(); });
-    select(0, plainKey(4));
-    QTimer::singleShot(0, this, [this] { child<QPushButton>(dialog(), "m_apply")->click(); });
-    button("m_reassignKey")->click();
-    QVERIFY(!m_menu);
-}
-
-void tst_AssignMenuWid::worksWithoutAMainWidget()
-{
-    m_environment->mainWidget = nullptr;
-    m_menu = std::make_unique<AssignMenuWid>();
-    int opened = 0;
-    Modal::setAnswerer([&](const ModalPrompt &prompt) {
-        opened += prompt.dialog ? 1 : 0;
-        return QVariant(0);
-    });
-    button("m_reassignKey")->click();
-    QCOMPARE(opened, 1);
 }
 
 void tst_AssignMenuWid::tabOrderFollowsReading()

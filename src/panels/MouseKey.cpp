@@ -8,7 +8,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
+#include <QPainterPathStroker>
 
 #include <algorithm>
 
@@ -52,17 +52,17 @@ MouseKey::Figure figureOf(ushort code)
     return isLeft ? MouseKey::Figure::BoxLeft : MouseKey::Figure::BoxRight;
 }
 
-QRectF squareAround(qreal radius)
+QRectF squareAround(int radius)
 {
-    return {-radius, -radius, 2 * radius, 2 * radius};
+    return QRect(-radius, -radius, 2 * radius, 2 * radius);
 }
 
-QPainterPath ringPart(qreal startAngle, qreal angle, qreal outer, qreal inner)
+QPainterPath quarterRing(int startAngle, int outer, int inner)
 {
     QPainterPath path;
     path.arcMoveTo(squareAround(outer), startAngle);
-    path.arcTo(squareAround(outer), startAngle, angle);
-    path.arcTo(squareAround(inner), startAngle + angle, -angle);
+    path.arcTo(squareAround(outer), startAngle, QuarterAngle);
+    path.arcTo(squareAround(inner), startAngle + QuarterAngle, -QuarterAngle);
     path.closeSubpath();
     return path;
 }
@@ -111,12 +111,10 @@ void MouseKey::setHotSpotShape()
 void MouseKey::setRingShape()
 {
     setFixedSize(2 * m_mainSize + 2, 2 * m_mainSize + 2);
-    const int start = Quarters.at(m_code).startAngle;
-    const int inner = m_mainSize / 3;
-    m_ring = ringPart(start, QuarterAngle, m_mainSize, inner);
-    // Room for the pen around the shape.
-    const QPainterPath drawn =
-        ringPart(start - 2, QuarterAngle + 4, m_mainSize + 2, std::max(0, inner - 2));
+    m_ring = quarterRing(Quarters.at(m_code).startAngle, m_mainSize, m_mainSize / 3);
+    QPainterPathStroker pen;
+    pen.setWidth(4);
+    const QPainterPath drawn = m_ring.united(pen.createStroke(m_ring));
     setMask(QRegion(drawn.translated(center()).toFillPolygon().toPolygon()));
 }
 
@@ -275,7 +273,6 @@ void MouseKey::paintEvent(QPaintEvent *)
         drawHotSpot(&painter);
     painter.setPen(Qt::white);
     painter.drawText(nameRect(), Qt::AlignCenter, nameText());
-    drawFocus(&painter);
 }
 
 void MouseKey::drawHotSpot(QPainter *painter) const
@@ -287,16 +284,4 @@ void MouseKey::drawHotSpot(QPainter *painter) const
     painter->drawEllipse(dot, DotRadius, DotRadius);
     // The line of the border lies inside the box.
     painter->drawRect(QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5));
-}
-
-void MouseKey::drawFocus(QPainter *painter) const
-{
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    if (!(option.state & QStyle::State_HasFocus))
-        return;
-    const QSize size = fontMetrics().size(0, nameText()) + QSize(4, 2);
-    option.rect.setSize(size.boundedTo(nameRect().size()));
-    option.rect.moveCenter(nameRect().center());
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, painter, this);
 }

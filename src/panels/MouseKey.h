@@ -59,7 +59,6 @@ private:
     MouseKey *siblingAt(const QPoint &pos) const;
     bool handOver(const QMouseEvent *event) const;
     void drawHotSpot(QPainter *painter) const;
-    void drawFocus(QPainter *painter) const;
 
     ushort m_code;
     Figure m_figure;

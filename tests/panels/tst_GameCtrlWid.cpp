@@ -449,6 +449,8 @@ void tst_GameCtrlWid::noHeightIsHarmless()
         const auto buttons = group(panel)->buttons();
         for (const QAbstractButton *button : buttons)
             QCOMPARE(button->size(), QSize(0, 0));
+        QVERIFY(group(panel)->button(473)->styleSheet().contains(
+            QStringLiteral("border-radius:0px;qproperty-iconSize:0px;")));
         panel.grab();
     }
     panel.resize(688, 226);

@@ -82,11 +82,7 @@ MacroWid::MacroWid(QWidget *parent) : QWidget(parent), m_ui(std::make_unique<Ui:
             &MacroWid::slotMacroChanged);
 }
 
-MacroWid::~MacroWid()
-{
-    // The list empties itself when it goes, and there is no panel left to hear of it.
-    m_ui->m_macroList->blockSignals(true);
-}
+MacroWid::~MacroWid() = default;
 
 bool MacroWid::eventFilter(QObject *watched, QEvent *event)
 {

@@ -1,10 +1,13 @@
 #include "dualaction/ActionAssignWid.h"
 
+#include "toolkit/FocusRing.h"
+
 #include "ui_ActionAssignUi.h"
 
 ActionAssignWid::ActionAssignWid(QWidget *parent) : QWidget(parent), m_ui(new Ui::ActionAssignUi)
 {
     m_ui->setupUi(this);
+    new FocusRing(this);
     connect(m_ui->m_keyboard, &KeyboardWid::sigKeyChanged, this,
             &ActionAssignWid::slotDualActionChanged);
     connect(m_ui->m_mouse, &MouseWid::sigMouseChanged, this,

@@ -123,7 +123,7 @@ void CatalogCheck::checkFile(const QFileInfo &file)
 /// The page's reading of a line: UTF-8 up to the first NUL.
 QString CatalogCheck::textOf(int line, const QByteArray &bytes)
 {
-    const QString text = QString::fromUtf8(bytes.constData());
+    QString text = QString::fromUtf8(bytes.constData());
     if (bytes.contains('\0'))
         find(line, QStringLiteral("is cut at a NUL byte"));
     else if (text.toUtf8() != bytes)

@@ -27,6 +27,8 @@ private slots:
     void init();
     void cleanup();
     void form();
+    void roomIsShared_data();
+    void roomIsShared();
     void pages();
     void opens_data();
     void opens();
@@ -120,6 +122,31 @@ void tst_ActionAssignWid::form()
     QVERIFY(apply->styleSheet().endsWith(
         QStringLiteral("min-height:40px; }\nQPushButton:hover{background-color: "
                        "#333333;}\nQPushButton:pressed{background-color: rgb(132,49,155)}")));
+}
+
+void tst_ActionAssignWid::roomIsShared_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("small") << QSize(784, 808);
+    QTest::newRow("large") << QSize(1280, 900);
+}
+
+/// Five parts for the pad, two for the pages; the buttons stand between them, beside no pad.
+void tst_ActionAssignWid::roomIsShared()
+{
+    QFETCH(QSize, size);
+    overlay()->setFixedSize(size);
+    overlay()->openOverlay(1, 0, QStringLiteral("ACTION  1"));
+    const QRect top = child<QLayout>(overlay(), "gridLayout")->geometry();
+    const QRect map = child<QLayout>(overlay(), "horizontalLayout")->geometry();
+    QVERIFY(qAbs(top.height() * 2 - map.height() * 5) <= 5);
+    for (const char *name : {"m_action", "m_back", "m_apply"}) {
+        const QRect place = child<QWidget>(overlay(), name)->geometry();
+        QCOMPARE(place.bottom(), top.bottom());
+        QVERIFY(map.top() > place.bottom());
+        QVERIFY(overlay()->rect().contains(place));
+    }
+    QCOMPARE(child<QWidget>(overlay(), "m_back")->height(), 42);
 }
 
 void tst_ActionAssignWid::pages()

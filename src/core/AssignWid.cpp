@@ -360,7 +360,11 @@ bool AssignWid::hasRoomForMacro()
 {
     if (store()->canAddMacroAssign(m_iOwner, m_iProfile))
         return true;
+    const QPointer<AssignWid> alive(this);
     MsgBox::warning(this, tr("warning"), tr("Macro assign has reached maximum limit"));
+    // The menu of advanced mode shows a pick before it hands it on.
+    if (alive && store()->getMode(m_iOwner, m_iProfile) == Mode::Advanced)
+        announceSelection();
     return false;
 }
 

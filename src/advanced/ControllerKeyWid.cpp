@@ -1,5 +1,6 @@
 #include "advanced/ControllerKeyWid.h"
 
+#include "toolkit/NarrowText.h"
 #include "vocabulary/Common.h"
 #include "vocabulary/KeyCodes.h"
 
@@ -12,11 +13,17 @@
 namespace {
 
 constexpr int TextMargin = 4;
-const QString KeySeparator = QStringLiteral(",\n");
+/// Of a row's width, at most: the buttons of narrow rows form a column too.
+constexpr double KeysShare = 0.45;
 
 QString padKeyName(int keyIdx)
 {
     return QStringLiteral("VANTRIX %1").arg(keyIdx + 1, 2, 10, QLatin1Char('0'));
+}
+
+QString widestLine()
+{
+    return padKeyName(0) + QLatin1Char(',');
 }
 
 int widthOf(const QString &text, const QFont &font)
@@ -33,21 +40,12 @@ ControllerKeyWid::ControllerKeyWid(int iKeyId, QWidget *parent)
     const QString name = tr(keyFunctionName(ushort(iKeyId)));
     m_ui->m_gamepad->setText(name);
     m_ui->m_keyNo->setAccessibleName(name);
-    reserveWidths();
+    measure();
+    fit();
     connect(m_ui->m_keyNo, &QPushButton::clicked, this, &ControllerKeyWid::slotKeyAssigned);
 }
 
 ControllerKeyWid::~ControllerKeyWid() = default;
-
-void ControllerKeyWid::reserveWidths()
-{
-    m_ui->m_gamepad->ensurePolished();
-    QFont found = m_ui->m_gamepad->font();
-    found.setBold(true);
-    m_ui->m_gamepad->setMinimumWidth(widthOf(m_ui->m_gamepad->text(), found));
-    m_ui->m_keyNo->ensurePolished();
-    m_ui->m_keyNo->setMinimumWidth(widthOf(padKeyName(0) + KeySeparator, m_ui->m_keyNo->font()));
-}
 
 void ControllerKeyWid::setKeys(int iCurrKey, const std::vector<int> &lsKeys)
 {
@@ -62,9 +60,46 @@ void ControllerKeyWid::delCurrKey()
         updateKeyText();
 }
 
+void ControllerKeyWid::measure()
+{
+    m_ui->m_gamepad->ensurePolished();
+    QFont found = m_ui->m_gamepad->font();
+    found.setBold(true);
+    m_nameWidth = widthOf(m_ui->m_gamepad->text(), found);
+    m_ui->m_keyNo->ensurePolished();
+    m_keysWidth = widthOf(widestLine(), m_ui->m_keyNo->font());
+    m_ui->m_gamepad->setMinimumWidth(1);
+}
+
+QSize ControllerKeyWid::sizeHint() const
+{
+    return {m_nameWidth + m_keysWidth, QWidget::sizeHint().height()};
+}
+
 QSize ControllerKeyWid::minimumSizeHint() const
 {
-    return {QWidget::minimumSizeHint().width(), sizeHint().height() + TextMargin};
+    return {(m_nameWidth + m_keysWidth) / 2, sizeHint().height() + TextMargin};
+}
+
+void ControllerKeyWid::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fit();
+}
+
+void ControllerKeyWid::fit()
+{
+    const int keys = std::min(m_keysWidth, int(width() * KeysShare));
+    m_ui->m_keyNo->setFixedWidth(keys);
+    narrowText(m_ui->m_keyNo, widestLine(), keys - 2 * TextMargin);
+    fitName();
+    updateKeyText();
+}
+
+void ControllerKeyWid::fitName()
+{
+    const int room = width() - m_ui->m_keyNo->minimumWidth() - 2 * TextMargin;
+    narrowText(m_ui->m_gamepad, m_ui->m_gamepad->text(), room);
 }
 
 bool ControllerKeyWid::takeCurrKey()
@@ -93,7 +128,7 @@ void ControllerKeyWid::updateKeyText()
     QStringList names;
     for (const int keyIdx : m_lsKeys)
         names << padKeyName(keyIdx);
-    Common::SetText(m_ui->m_keyNo, names.join(KeySeparator));
+    Common::SetText(m_ui->m_keyNo, names.join(QStringLiteral(",\n")));
     m_ui->m_keyNo->setAccessibleDescription(names.join(QStringLiteral(", ")));
 }
 
@@ -105,6 +140,8 @@ void ControllerKeyWid::search(QString strText)
         QStringLiteral("background:transparent;border:1px solid rgb(132,50,155);") +
         (found ? QStringLiteral("color:white;font-weight:bold;")
                : QStringLiteral("color:rgb(235,235,235);"));
-    if (m_ui->m_gamepad->styleSheet() != sheet)
-        m_ui->m_gamepad->setStyleSheet(sheet);
+    if (m_ui->m_gamepad->styleSheet() == sheet)
+        return;
+    m_ui->m_gamepad->setStyleSheet(sheet);
+    fitName();
 }

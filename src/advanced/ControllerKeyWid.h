@@ -33,7 +33,9 @@ public:
     /// text ends that.
     void search(QString strText);
 
-    /// High enough for all keys.
+    /// High enough for all keys, and as wide with keys or a search as without. On a row that is
+    /// narrower than the hint, down to half of it, texts are drawn narrower.
+    QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 signals:
@@ -43,17 +45,23 @@ signals:
     /// signal above.
     void sigGameControllerChanged(vantrix_key_mapping key);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private slots:
     void slotKeyAssigned();
 
 private:
-    /// Neither the keys on the row nor a search change the widths.
-    void reserveWidths();
+    void measure();
+    void fit();
+    void fitName();
     bool takeCurrKey();
     void updateKeyText();
 
     const std::unique_ptr<Ui::ControllerKeyUi> m_ui;
     const int m_iKeyId;
+    int m_nameWidth = 0; ///< of the name when it stands out, pixels
+    int m_keysWidth = 0; ///< of the button with any keys
     int m_iCurrKey = 0;
     std::vector<int> m_lsKeys;
 };

@@ -24,6 +24,7 @@ private slots:
     void search();
     void searchRestylesOnlyOnChange();
     void widthsStay();
+    void narrowRow();
     void growsWithItsKeys();
     void enterClicksNothing();
     void accessible();
@@ -233,6 +234,26 @@ void tst_ControllerKeyWid::widthsStay()
     QCOMPARE(row.minimumSizeHint().width(), width);
     QCOMPARE(button(row)->width(), ofButton);
     QVERIFY(button(row)->toolTip().isEmpty());
+}
+
+void tst_ControllerKeyWid::narrowRow()
+{
+    ControllerKeyWid row(732, nullptr);
+    row.show();
+    row.setKeys(0, {0, 27});
+    row.resize(140, 40);
+    QCoreApplication::processEvents();
+    QCOMPARE(button(row)->text(), QStringLiteral("VANTRIX 01,\nVANTRIX 28"));
+    QVERIFY(button(row)->font().stretch() < 100);
+    for (const char *text : {"", "r"}) {
+        row.search(QLatin1String(text));
+        QVERIFY(label(row)->font().stretch() < 100);
+        QVERIFY(label(row)->width() >= label(row)->sizeHint().width());
+    }
+    row.resize(300, 40);
+    QCoreApplication::processEvents();
+    QCOMPARE(label(row)->font().stretch(), 100);
+    QCOMPARE(button(row)->font().stretch(), 100);
 }
 
 void tst_ControllerKeyWid::growsWithItsKeys()

@@ -294,7 +294,8 @@ void tst_GameControllerAdvWid::centreRowsFollowTheBumper()
 void tst_GameControllerAdvWid::everythingInsideAtAnySize()
 {
     m_page->setProfile(1, 2);
-    for (const QSize size : {QSize(1, 1), QSize(700, 400), QSize(1300, 500), QSize(1076, 676)}) {
+    for (const QSize size :
+         {QSize(1, 1), QSize(588, 600), QSize(700, 400), QSize(1300, 500), QSize(1076, 676)}) {
         m_page->show();
         m_page->resize(size);
         QCoreApplication::processEvents();
@@ -306,7 +307,9 @@ void tst_GameControllerAdvWid::everythingInsideAtAnySize()
                 QVERIFY2(!rect.intersects(other), qPrintable(row(code)->objectName()));
             rects << rect;
             auto *const name = child<QLabel>(row(code), "m_gamepad");
-            QVERIFY(name->width() >= name->sizeHint().width());
+            if (size.width() > 1)
+                QVERIFY2(name->width() >= name->sizeHint().width(), qPrintable(name->text()));
+            QVERIFY(button(code)->toolTip().isEmpty());
         }
     }
 }

@@ -119,7 +119,12 @@ QWidget *DeviceView::makeLog()
     m_log->setUniformRowHeights(true);
     m_log->setMinimumHeight(100);
     m_log->header()->setStretchLastSection(false);
-    m_log->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // widths that follow a thousand rows would be measured anew with each event
+    const QFontMetrics metrics = fontMetrics();
+    m_log->header()->setSectionResizeMode(QHeaderView::Interactive);
+    m_log->header()->resizeSection(KeyColumn, metrics.horizontalAdvance(KeyTitle::of(28)) + 22);
+    m_log->header()->resizeSection(DepthColumn, metrics.horizontalAdvance(tr("DEPTH")) + 22);
+    m_log->header()->resizeSection(CodeColumn, metrics.horizontalAdvance(tr("CODE")) + 22);
     m_log->header()->setSectionResizeMode(EventColumn, QHeaderView::Stretch);
     layout->addWidget(m_log, 1);
     connect(release, &QPushButton::clicked, this, &DeviceView::releaseAll);

@@ -55,6 +55,13 @@ MacroPage::MacroPage(ShellContext &context, QWidget *parent)
     refresh();
 }
 
+MacroPage::~MacroPage()
+{
+    // a name that is being edited would still be taken over while the widgets go
+    m_macroList->disconnect(this);
+    m_recorder->disconnect(this);
+}
+
 void MacroPage::connectRecorder()
 {
     connect(m_recorder, &MacroRecorder::recorded, this, &MacroPage::onRecorded);

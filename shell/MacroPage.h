@@ -30,6 +30,7 @@ class MacroPage : public QWidget
 
 public:
     explicit MacroPage(ShellContext &context, QWidget *parent = nullptr);
+    ~MacroPage() override;
 
     /// Name of the chosen macro; empty without one.
     QString currentMacro() const { return m_current; }

@@ -135,7 +135,7 @@ int PadView::neighbour(int keyIdx, int dx, int dy) const
         const qreal along = way.x() * dx + way.y() * dy;
         const qreal across = std::abs(way.x() * dy) + std::abs(way.y() * dx);
         // what lies more aside than ahead is no neighbour in that direction
-        if (along < 1 || across > along * 2)
+        if (along < 1 || across > along * 1.5)
             continue;
         const qreal distance = along + across * 2;
         if (best == keyIdx || distance < least) {

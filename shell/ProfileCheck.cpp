@@ -36,6 +36,12 @@ std::optional<KeyContent> functionOf(int keyIdx, KeyContent key)
 
 } // namespace
 
+ProfileCheck::ProfileCheck(ProfileStore &store, int owner) : m_store(store), m_owner(owner)
+{
+    for (int profile = 0; profile < ProfileCount; ++profile)
+        m_switches.push_back(readSwitches(profile));
+}
+
 std::vector<CheckFinding> ProfileCheck::check(int profile) const
 {
     Findings findings;
@@ -116,8 +122,7 @@ void ProfileCheck::checkApplications(int profile, const ProfileKeys &keys, Findi
     }
 }
 
-/// Keys of a profile that make the device act by another one; their `profile` is that one.
-std::vector<KeyPlace> ProfileCheck::switches(int profile) const
+std::vector<KeyPlace> ProfileCheck::readSwitches(int profile) const
 {
     std::vector<KeyPlace> places;
     for (int i = 0; i < KeyCount; ++i) {
@@ -145,7 +150,7 @@ bool ProfileCheck::leadsTo(int from, int to) const
         if (seen[std::size_t(profile)])
             continue;
         seen[std::size_t(profile)] = true;
-        for (const KeyPlace &way : switches(profile))
+        for (const KeyPlace &way : m_switches[std::size_t(profile)])
             open.push_back(way.profile);
     }
     return false;
@@ -156,7 +161,7 @@ void ProfileCheck::checkWayBack(int profile, Findings &findings) const
     for (const int other : m_store.state().profileOrder(m_owner)) {
         if (other == profile)
             continue;
-        for (const KeyPlace &way : switches(other)) {
+        for (const KeyPlace &way : m_switches[std::size_t(other)]) {
             if (way.profile != profile || leadsTo(profile, other))
                 continue;
             findings.push_back(

@@ -46,7 +46,8 @@ class ProfileCheck
     Q_DECLARE_TR_FUNCTIONS(ProfileCheck)
 
 public:
-    ProfileCheck(ProfileStore &store, int owner) : m_store(store), m_owner(owner) {}
+    /// Reads where the keys of all profiles lead, so that it holds for the store as it is now.
+    ProfileCheck(ProfileStore &store, int owner);
 
     /// What there is to say about a profile, worst first.
     std::vector<CheckFinding> check(int profile) const;
@@ -61,9 +62,11 @@ private:
     void checkApplications(int profile, const ProfileKeys &keys, Findings &findings) const;
     void checkWayBack(int profile, Findings &findings) const;
     static void checkShared(int profile, const ProfileKeys &keys, Findings &findings);
-    std::vector<KeyPlace> switches(int profile) const;
+    std::vector<KeyPlace> readSwitches(int profile) const;
     bool leadsTo(int from, int to) const;
 
     ProfileStore &m_store;
     int m_owner;
+    /// For each profile its keys that make the device act by another one; their `profile` is that.
+    std::vector<std::vector<KeyPlace>> m_switches;
 };

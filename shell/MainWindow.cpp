@@ -1,5 +1,6 @@
 #include "shell/MainWindow.h"
 
+#include "shell/Language.h"
 #include "shell/MappingView.h"
 #include "shell/MessageBar.h"
 #include "shell/ProfileList.h"
@@ -406,8 +407,8 @@ void MainWindow::openSettings()
 
 void MainWindow::onSettingChanged(const QString &name)
 {
-    if (name == SettingsDlg::languageKey()) {
-        m_context.services().environment().setLanguage(m_context.store().setting(name).toInt());
+    if (name == Language::settingKey()) {
+        m_context.services().environment().setLanguage(Language::of(m_context.store()));
         m_mapping->rebuild();
     } else if (name == HostLocations::hotKeysFolderKey()) {
         m_mapping->rebuild();

@@ -20,6 +20,7 @@ namespace {
 enum Role { ProfileRole = Qt::UserRole, DirtyRole, OnDeviceRole, MarkedRole };
 
 constexpr int RowHeight = 32;
+constexpr int NumberRowHeight = 26;
 constexpr int NumberWidth = 30;
 constexpr int FullWidth = 216;
 constexpr int CompactWidth = 60;
@@ -56,7 +57,8 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const override
     {
-        return {40, qMax(RowHeight, option.fontMetrics.height() + 12)};
+        const bool isNumber = option.rect.width() < NameRowWidth;
+        return {40, qMax(isNumber ? NumberRowHeight : RowHeight, option.fontMetrics.height() + 8)};
     }
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &,
@@ -209,6 +211,7 @@ void ProfileList::setCompact(bool compact)
     m_list->setVerticalScrollBarPolicy(compact ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     layout()->setContentsMargins(compact ? 4 : 10, 10, compact ? 2 : 6, 10);
     setFixedWidth(compact ? CompactWidth : FullWidth);
+    m_list->doItemsLayout();
 }
 
 QToolButton *ProfileList::addButton(const QString &text, const QString &tip, const char *name)

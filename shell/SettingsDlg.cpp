@@ -1,6 +1,7 @@
 #include "shell/SettingsDlg.h"
 
 #include "interfaces/Modal.h"
+#include "shell/Language.h"
 #include "shell/ShellStyle.h"
 #include "vocabulary/AppTables.h"
 #include "vocabulary/KeyLegends.h"
@@ -21,11 +22,6 @@ constexpr int MaxMacroAssigns = 4096;
 constexpr int MinWidth = 560;
 
 } // namespace
-
-QString SettingsDlg::languageKey()
-{
-    return QStringLiteral("language");
-}
 
 SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
     : QDialog(parent), m_context(context), m_language(new QComboBox(this)),
@@ -73,11 +69,8 @@ SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
 
 void SettingsDlg::fillLanguages()
 {
-    std::map<int, QString> names;
-    for (const auto &[name, index] : LanguageIndex())
-        names.emplace(index, name);
-    for (const auto &[index, name] : names)
-        m_language->addItem(name, index);
+    for (int index = 0; index < LanguageCount; ++index)
+        m_language->addItem(Language::title(index), index);
     const int language = m_context.services().environment().getLanguage();
     m_language->setCurrentIndex(m_language->findData(language));
 }
@@ -114,6 +107,6 @@ void SettingsDlg::accept()
         store.setMacroAssignLimit(m_macroAssigns->value());
     store.setSetting(HostLocations::hotKeysFolderKey(), m_hotKeys->text().trimmed());
     if (m_language->currentData().toInt() != m_context.services().environment().getLanguage())
-        store.setSetting(languageKey(), m_language->currentData().toString());
+        store.setSetting(Language::settingKey(), m_language->currentData().toString());
     QDialog::accept();
 }

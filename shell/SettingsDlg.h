@@ -15,9 +15,6 @@ class SettingsDlg : public QDialog
     Q_OBJECT
 
 public:
-    /// Name of the setting that holds the language's number.
-    static QString languageKey();
-
     explicit SettingsDlg(ShellContext &context, QWidget *parent = nullptr);
 
     void accept() override;

@@ -4,7 +4,27 @@
 #include "vocabulary/KeyCodes.h"
 
 #include <QApplication>
+#include <QProxyStyle>
 #include <QStyleFactory>
+
+namespace {
+
+/// Buttons of dialogs are words, like all others.
+class Style : public QProxyStyle
+{
+public:
+    Style() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *result) const override
+    {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, result);
+    }
+};
+
+} // namespace
 
 QColor ShellStyle::window()
 {
@@ -48,7 +68,7 @@ QColor ShellStyle::warning()
 
 void ShellStyle::install()
 {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new Style);
     QPalette palette;
     palette.setColor(QPalette::Window, window());
     palette.setColor(QPalette::WindowText, text());
@@ -71,6 +91,8 @@ void ShellStyle::install()
 
 QString ShellStyle::panelSheet()
 {
+    // The sheet names pictures, and a static library's are not there by themselves.
+    Q_INIT_RESOURCE(shell);
     return QStringLiteral(
                "QPushButton,QToolButton{background:%1;border:1px solid %2;border-radius:4px;"
                "padding:5px 10px;}"
@@ -84,9 +106,14 @@ QString ShellStyle::panelSheet()
                "border-radius:4px;outline:none;}"
                "QListView:focus,QTreeView:focus,QTableView:focus{border-color:%3;}"
                "QHeaderView::section{background:%1;color:%6;border:none;padding:4px 6px;}"
-               "QLineEdit,QSpinBox,QComboBox{background:%5;border:1px solid %2;border-radius:4px;"
+               "QLineEdit,QAbstractSpinBox,QComboBox{background:%5;border:1px solid "
+               "%2;border-radius:4px;"
                "padding:4px 6px;}"
-               "QLineEdit:focus,QSpinBox:focus,QComboBox:focus{border-color:%4;}")
+               "QLineEdit:focus,QAbstractSpinBox:focus,QComboBox:focus{border-color:%4;}"
+               "QComboBox::drop-down{border:none;width:20px;}"
+               "QAbstractSpinBox::up-button,QAbstractSpinBox::down-button{border:none;width:18px;}"
+               "QComboBox::down-arrow,QAbstractSpinBox::down-arrow{image:url(:/shell/down.png);}"
+               "QAbstractSpinBox::up-arrow{image:url(:/shell/up.png);}")
         .arg(raised().name(), line().name(), accent().name(), text().name(), panel().name(),
              dim().name());
 }

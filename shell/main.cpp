@@ -1,9 +1,8 @@
 #include "host/HostServices.h"
 #include "shell/Headless.h"
+#include "shell/Language.h"
 #include "shell/MainWindow.h"
-#include "shell/SettingsDlg.h"
 #include "shell/ShellStyle.h"
-#include "vocabulary/KeyLegends.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -59,18 +58,6 @@ bool choosePlatform(int argc, char **argv)
     return isHeadless;
 }
 
-/// Number of a language given by name or number; -1 for none.
-int languageOf(const QString &text)
-{
-    for (const auto &[name, index] : LanguageIndex()) {
-        if (!name.compare(text, Qt::CaseInsensitive))
-            return index;
-    }
-    bool ok = false;
-    const int index = text.toInt(&ok);
-    return ok && index >= 0 && index < LanguageCount ? index : -1;
-}
-
 Options readOptions(bool isHeadless)
 {
     QCommandLineParser parser;
@@ -98,7 +85,7 @@ Options readOptions(bool isHeadless)
     options.screenshot = parser.value(QStringLiteral("screenshot"));
     options.dataFolder = parser.value(QStringLiteral("data"));
     const QString language = parser.value(QStringLiteral("language"));
-    options.language = languageOf(language);
+    options.language = Language::parse(language);
     const QString profile = parser.value(QStringLiteral("profile"));
     if (!profile.isEmpty())
         options.profile = profile.toInt() - 1;
@@ -123,6 +110,12 @@ void writeMessage(QtMsgType type, const QMessageLogContext &context, const QStri
         std::abort();
 }
 
+void setLanguage(HostServices &services, const Options &options)
+{
+    const int language = options.language >= 0 ? options.language : Language::of(services.store());
+    services.environment().setLanguage(language);
+}
+
 int runHeadless(Options options)
 {
     QTextStream out(stdout);
@@ -132,7 +125,7 @@ int runHeadless(Options options)
         options.dataFolder = folder.path();
     HostServices services(options.dataFolder);
     err << "Data folder: " << services.locations().dataFolder() << '\n';
-    services.environment().setLanguage(options.language);
+    setLanguage(services, options);
     for (const QString &message : services.store().messages())
         err << message << '\n';
     const int profile = qMax(0, options.profile);
@@ -146,9 +139,7 @@ int runHeadless(Options options)
 int runWindow(const Options &options)
 {
     HostServices services(options.dataFolder);
-    services.environment().setLanguage(
-        options.language >= 0 ? options.language
-                              : services.store().setting(SettingsDlg::languageKey()).toInt());
+    setLanguage(services, options);
     ShellContext context(services);
     MainWindow window(context);
     if (options.profile >= 0)

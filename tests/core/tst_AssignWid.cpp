@@ -294,10 +294,13 @@ void tst_AssignWid::maskOfTheOutline()
     QVERIFY(!region.isEmpty());
     const QRect bounds = region.boundingRect();
     QCOMPARE(bounds.left(), 50);
-    // The tallest rectangle gives up a column on its right.
-    QCOMPARE(bounds.right(), 50 + 425 - 1 - 1);
+    QCOMPARE(bounds.right(), 50 + 425 - 1);
+    // The tallest rectangle, the block below the seam, gives up a column on its right.
+    QVERIFY(region.contains(QPoint(50 + 424, 20 + 100)));
+    QVERIFY(region.contains(QPoint(50 + 423, 20 + 370)));
+    QVERIFY(!region.contains(QPoint(50 + 424, 20 + 370)));
     QVERIFY(region.contains(QPoint(50 + 212, 20 + 370)));
-    // Nothing below the straight sides, which end fifteen pixels early.
+    // It ends fifteen pixels early, and nothing lies below it.
     QVERIFY(bounds.bottom() < 20 + 740 - 15);
     QVERIFY(!region.contains(QPoint(50, 20)));
     m->board.setParent(nullptr);

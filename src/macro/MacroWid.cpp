@@ -8,7 +8,6 @@
 
 #include "ui_MacroUi.h"
 
-#include <QEvent>
 #include <QListWidgetItem>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -76,22 +75,13 @@ MacroWid::MacroWid(QWidget *parent) : QWidget(parent), m_ui(std::make_unique<Ui:
     colorSelection(m_ui->m_macroList);
     m_ui->m_macroList->verticalScrollBar()->setStyleSheet(scrollBarSheet());
     m_ui->m_macroList->setAccessibleName(tr(inputTypeName(InputType::Macro)));
-    m_ui->m_createBtn->installEventFilter(this);
+    keepTextNarrow(m_ui->m_createBtn, 8);
     connect(m_ui->m_createBtn, &QPushButton::clicked, this, &MacroWid::sigCreateMacro);
     connect(m_ui->m_macroList, &QListWidget::itemSelectionChanged, this,
             &MacroWid::slotMacroChanged);
 }
 
 MacroWid::~MacroWid() = default;
-
-bool MacroWid::eventFilter(QObject *watched, QEvent *event)
-{
-    constexpr int margins = 8;
-    QPushButton *const button = m_ui->m_createBtn;
-    if (watched == button && event->type() == QEvent::Resize)
-        narrowText(button, button->text(), button->width() - margins);
-    return QWidget::eventFilter(watched, event);
-}
 
 MacroItem *MacroWid::item(int row) const
 {

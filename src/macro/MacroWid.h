@@ -57,9 +57,6 @@ signals:
     /// The macro of that number has a new name.
     void sigRenameMacro(QString strMacroNo, QString strMacroName);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private slots:
     void slotMacroChanged();
 

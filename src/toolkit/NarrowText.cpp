@@ -1,6 +1,8 @@
 #include "toolkit/NarrowText.h"
 
+#include <QEvent>
 #include <QFontMetrics>
+#include <QVariant>
 #include <QWidget>
 
 #include <algorithm>
@@ -13,6 +15,27 @@ int widthOf(const QString &text, const QFont &font)
 {
     return QFontMetrics(font).size(Qt::TextShowMnemonic, text).width();
 }
+
+class NarrowsOnResize : public QObject
+{
+public:
+    NarrowsOnResize(QWidget *widget, int margins) : QObject(widget), m_margins(margins)
+    {
+        widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Resize) {
+            auto *const widget = static_cast<QWidget *>(watched);
+            narrowText(widget, widget->property("text").toString(), widget->width() - m_margins);
+        }
+        return false;
+    }
+
+private:
+    int m_margins;
+};
 
 } // namespace
 
@@ -29,4 +52,9 @@ void narrowText(QWidget *widget, const QString &text, int room)
         font.setStretch(font.stretch() - 1);
     if (font.stretch() != present)
         widget->setFont(font);
+}
+
+void keepTextNarrow(QWidget *widget, int margins)
+{
+    new NarrowsOnResize(widget, margins);
 }

@@ -2,6 +2,7 @@
 
 #include "interfaces/ButtonGroupEx.h"
 #include "panels/PanelRecords.h"
+#include "toolkit/NarrowText.h"
 #include "vocabulary/KeyCodes.h"
 
 #include "ui_BackLightUi.h"
@@ -13,7 +14,21 @@ namespace {
 class BackLightBtn : public QPushButton
 {
 public:
-    using QPushButton::QPushButton;
+    BackLightBtn(const QString &name, QWidget *parent) : QPushButton(name, parent)
+    {
+        setStyleSheet(functionSheet(InputType::Backlight));
+        ensurePolished();
+        // The sheet has no padding, and the longest names would touch their borders.
+        m_sizeHint = QPushButton::sizeHint() + QSize(12, 0);
+        keepTextNarrow(this, 4);
+    }
+
+    /// That of the name at its usual width, also when it is narrowed.
+    QSize sizeHint() const override { return m_sizeHint; }
+    QSize minimumSizeHint() const override { return {1, m_sizeHint.height()}; }
+
+private:
+    QSize m_sizeHint;
 };
 
 } // namespace
@@ -25,7 +40,6 @@ BackLightWid::BackLightWid(QWidget *parent)
     int number = 0;
     for (const ushort code : InputKeyLists().at(InputType::Backlight)) {
         auto *const button = new BackLightBtn(tr(keyFunctionName(code)), m_ui->widget);
-        button->setStyleSheet(functionSheet(InputType::Backlight));
         addFunction(button, code);
         m_ui->m_layout->addWidget(button, number / 2 % 3, number % 2);
         ++number;

@@ -2,6 +2,7 @@
 
 #include "core/records.h"
 #include "interfaces/IVantrixProfileCfg.h"
+#include "toolkit/NarrowText.h"
 #include "toolkit/PanelStyle.h"
 #include "vocabulary/KeyCodes.h"
 
@@ -30,11 +31,13 @@ InputWid::InputWid(QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::InputUi>()), m_group(new QButtonGroup(this))
 {
     m_ui->setupUi(this);
+    keepTextNarrow(m_ui->label);
     for (int input = InputType::Keyboard; input <= InputType::PresetMode; ++input) {
         auto *const button = new InputBtn(tr(inputTypeName(input)), m_ui->widget);
         button->setCheckable(true);
         button->setStyleSheet(selectorSheet());
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        keepTextNarrow(button, 4);
         m_ui->m_inputLayout->addWidget(button);
         m_group->addButton(button, input);
     }

@@ -65,6 +65,12 @@ void tst_BackLightWid::buttonsLieApart()
         QCoreApplication::processEvents();
         QCOMPARE(panel.size(), size);
         compareButtonsLieApart(panel);
+        const auto buttons = m_common.group(panel)->buttons();
+        for (const QAbstractButton *button : buttons) {
+            const int room = button->width() - (size.width() > 450 ? 10 : 0);
+            QVERIFY2(button->fontMetrics().horizontalAdvance(button->text()) <= room,
+                     qPrintable(button->text()));
+        }
     }
 }
 

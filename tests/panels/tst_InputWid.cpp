@@ -211,7 +211,11 @@ void tst_InputWid::fitsThePage()
         QVERIFY(selector.rect().contains(rect));
         QCOMPARE(rect.left(), 15);
         QCOMPARE(rect.width(), 126);
+        QVERIFY(button->fontMetrics().horizontalAdvance(button->text()) <= 126);
     }
+    const auto *const title = selector.findChild<QLabel *>();
+    QCOMPARE(title->width(), 126);
+    QVERIFY(title->fontMetrics().horizontalAdvance(title->text()) <= 126);
 }
 
 VANTRIX_TEST_MAIN(tst_InputWid)

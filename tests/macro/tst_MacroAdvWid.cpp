@@ -457,7 +457,7 @@ void tst_MacroAdvWid::manyMacrosScroll()
     m_picker->resize(600, 354);
     m_picker->show();
     for (int i = 0; i < 200; ++i)
-        m_picker->addMacro("Macro number " + std::to_string(i));
+        m_picker->addMacro("A rather long name of macro " + std::to_string(i));
     QVERIFY(m_picker->minimumSizeHint().width() < 600);
     auto *const area = child<QScrollArea>(m_picker.get(), "scrollArea");
     QTRY_VERIFY(area->horizontalScrollBar()->maximum() > 0);

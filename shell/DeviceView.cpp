@@ -1,6 +1,7 @@
 #include "shell/DeviceView.h"
 
 #include "host/KeyText.h"
+#include "shell/DepthSlider.h"
 #include "shell/KeyTitle.h"
 #include "shell/PadView.h"
 #include "shell/ShellStyle.h"
@@ -12,7 +13,6 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QSlider>
 #include <QTreeWidget>
 
 namespace {
@@ -63,13 +63,9 @@ QWidget *DeviceView::makePad()
     m_pad = new PadView(box);
     m_pad->setObjectName(QStringLiteral("m_pad"));
     m_pad->setPressable(true);
-    m_depth = new QSlider(Qt::Vertical, box);
+    m_depth = new DepthSlider(box);
     m_depth->setObjectName(QStringLiteral("m_depth"));
     m_depth->setAccessibleName(tr("Depth of the chosen key in percent"));
-    m_depth->setRange(0, PadView::FullDepth);
-    m_depth->setPageStep(10);
-    m_depth->setInvertedAppearance(true); // down is deeper
-    m_depth->setInvertedControls(true);
     m_depthText = new QLabel(box);
     m_depthText->setObjectName(QStringLiteral("m_depthText"));
     m_depthText->setAlignment(Qt::AlignCenter);
@@ -145,10 +141,9 @@ void DeviceView::refresh()
     m_profile->setCurrentIndex(m_profile->findData(profile));
 
     const DeviceImage image = device.image(owner, profile);
-    ProfileKeys keys;
-    for (std::size_t i = 0; i < keys.size(); ++i)
-        keys[i] = image.keys[i].content;
-    m_pad->setKeys(padKeys(keys));
+    for (std::size_t i = 0; i < m_keys.size(); ++i)
+        m_keys[i] = image.keys[i].content;
+    m_pad->setKeys(padKeys(m_keys));
     const auto pending = int(device.pending(owner, profile).size());
     if (pending == 0)
         m_pending->setText(tr("It has what the profile holds."));
@@ -180,8 +175,21 @@ void DeviceView::chooseKey(int keyIdx)
     const int percent = m_context.device().keyDepth(keyIdx);
     m_depth->setValue(percent);
     m_depthText->setText(tr("%1 %").arg(percent));
+    m_depth->setEdges(edgesOf(keyIdx));
     m_keyText->setText(isKey ? m_pad->keys()[std::size_t(keyIdx)].description
                              : tr("Press a key of the pad."));
+}
+
+/// Depths at which something happens to a key, in percent.
+std::vector<int> DeviceView::edgesOf(int keyIdx) const
+{
+    std::vector<int> edges{SimulatedDevice::PressDepth};
+    if (!isValidKey(keyIdx))
+        return edges;
+    const vantrix_key_mapping &mapping = m_keys[std::size_t(keyIdx)].mapping;
+    if (isDualAction(mapping) && ushort(mapping.digital.secondAction) != 0)
+        edges.push_back(mapping.digital.depth);
+    return edges;
 }
 
 void DeviceView::setDepth(int keyIdx, int percent)

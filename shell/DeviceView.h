@@ -4,12 +4,12 @@
 
 #include <QWidget>
 
+class DepthSlider;
 class PadView;
 class QBoxLayout;
 class QComboBox;
 class QLabel;
 class QPushButton;
-class QSlider;
 class QTreeWidget;
 
 /// The pad as the simulated device has it, to press and to watch: the keys of the profile that the
@@ -40,16 +40,18 @@ private:
     void refresh();
     void chooseProfile(int row);
     void chooseKey(int keyIdx);
+    std::vector<int> edgesOf(int keyIdx) const;
     void setDepth(int keyIdx, int percent);
     void log(int keyIdx, int percent, const std::vector<DeviceEvent> &events);
     void releaseAll();
 
     ShellContext &m_context;
+    ProfileKeys m_keys; ///< that the device acts by
     QBoxLayout *m_columns = nullptr;
     QComboBox *m_profile = nullptr;
     QLabel *m_pending = nullptr;
     PadView *m_pad = nullptr;
-    QSlider *m_depth = nullptr;
+    DepthSlider *m_depth = nullptr;
     QLabel *m_depthText = nullptr;
     QLabel *m_keyText = nullptr;
     QTreeWidget *m_log = nullptr;

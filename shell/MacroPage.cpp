@@ -22,6 +22,7 @@ namespace {
 
 constexpr int WideEnough = 700; ///< for list and events side by side
 constexpr int StandardDelay = 20;
+constexpr int RowHeight = 26;
 enum ListColumn { NumberColumn, NameColumn, EventsColumn, KeysColumn };
 enum NewEvent { PressAndRelease, Press, Release };
 constexpr int NameRole = Qt::UserRole;
@@ -39,8 +40,8 @@ MacroPage::MacroPage(ShellContext &context, QWidget *parent)
     m_backBtn->hide();
     outer->addWidget(m_backBtn, 0, Qt::AlignLeft);
     m_columns = new QBoxLayout(QBoxLayout::TopToBottom);
-    m_columns->addWidget(makeList(), 1);
-    m_columns->addWidget(makeEditor(), 2);
+    m_columns->addWidget(makeList(), 2);
+    m_columns->addWidget(makeEditor(), 3);
     outer->addLayout(m_columns, 1);
 
     connectRecorder();
@@ -167,10 +168,15 @@ QWidget *MacroPage::makeEditor()
     m_eventTable->setItemDelegate(new MacroEventDelegate(m_eventTable));
     m_eventTable->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_eventTable->setShowGrid(false);
+    m_eventTable->setCornerButtonEnabled(false);
+    m_eventTable->setStyleSheet(
+        QStringLiteral("QHeaderView,QTableCornerButton::section{background:%1;border:none;}"
+                       "QHeaderView::section:vertical{background:%1;}")
+            .arg(ShellStyle::panel().name()));
     m_eventTable->setTabKeyNavigation(false);
     m_eventTable->setMinimumHeight(110);
     m_eventTable->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-    m_eventTable->verticalHeader()->setDefaultSectionSize(26);
+    m_eventTable->verticalHeader()->setDefaultSectionSize(RowHeight);
     m_eventTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_eventTable->horizontalHeader()->setHighlightSections(false);
     m_eventTable->installEventFilter(this);
@@ -223,6 +229,7 @@ QWidget *MacroPage::makeEventRow(QWidget *parent)
     m_newEvent->addItem(tr("release"), Release);
     m_newKey = new KeyCombo(box);
     m_newKey->setObjectName(QStringLiteral("m_newKey"));
+    m_newKey->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_newKey->setMinimumContentsLength(9);
     row->addWidget(m_newEvent);
     row->addWidget(m_newKey);
@@ -265,6 +272,7 @@ void MacroPage::refreshList()
         if (!item) {
             item = new QTreeWidgetItem(m_macroList);
             item->setFlags(item->flags() | Qt::ItemIsEditable);
+            item->setSizeHint(NameColumn, QSize(0, RowHeight));
         }
         const auto macro = store.state().macro(owner, names[i]);
         item->setText(NumberColumn, QStringLiteral("M%1").arg(i + 1));

@@ -16,10 +16,12 @@
 
 namespace {
 
-/// Places in the picture of the pad, in its own pixels. The display above the seam is not shown.
+/// Places in the picture of the pad, in its own pixels. Neither the display above the seam nor the
+/// shadow below the pad are shown.
 constexpr QSizeF WholePicture(425, 740);
 constexpr qreal Seam = 185;
-constexpr QSizeF PictureSize(WholePicture.width(), WholePicture.height() - Seam);
+constexpr qreal Shadow = 719;
+constexpr QSizeF PictureSize(WholePicture.width(), Shadow - Seam);
 constexpr qreal Pitch = 71;
 constexpr qreal KeySize = 68;
 constexpr QPointF FirstKey(37, 335 - Seam);
@@ -155,8 +157,8 @@ const QPixmap &PadView::picture(const QSize &size)
     if (m_picture.size() != wanted) {
         const QPixmap whole(QStringLiteral(":/VantrixMap/vantrix.png"));
         const qreal scale = whole.height() / WholePicture.height();
-        const int top = qRound(Seam * scale);
-        m_picture = whole.copy(0, top, whole.width(), whole.height() - top)
+        const QRectF shown(0, Seam * scale, whole.width(), PictureSize.height() * scale);
+        m_picture = whole.copy(shown.toRect())
                         .scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         m_picture.setDevicePixelRatio(ratio);
     }

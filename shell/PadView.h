@@ -57,8 +57,8 @@ public:
     /// Key at a place of the widget; NoKey beside all keys.
     int keyAt(const QPointF &place) const;
 
-    QSize sizeHint() const override { return {300, 392}; }
-    QSize minimumSizeHint() const override { return {153, 200}; }
+    QSize sizeHint() const override { return {300, 377}; }
+    QSize minimumSizeHint() const override { return {159, 200}; }
 
 signals:
     /// The user chose a key.

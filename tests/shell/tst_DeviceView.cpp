@@ -1,6 +1,7 @@
 #include "shell/DeviceView.h"
 
 #include "ShellFixture.h"
+#include "shell/DepthSlider.h"
 #include "shell/PadView.h"
 #include "support/Gestures.h"
 #include "support/TestMain.h"
@@ -27,6 +28,7 @@ private slots:
     void pressWithTheKeyboard();
     void arrowsChooseNeighbours();
     void slider();
+    void sliderMarksTheEdges();
     void dualActions_data();
     void dualActions();
     void macro();
@@ -191,6 +193,26 @@ void tst_DeviceView::slider()
              QStringList({QStringLiteral("\u25BC press S"), QStringLiteral("\u25B2 release S")}));
     emit pad()->currentKeyChanged(13);
     QCOMPARE(slider->value(), 0);
+    slider->setFocus();
+    pressKey(slider, Qt::Key_PageDown); // down is deeper
+    QCOMPARE(slider->value(), 10);
+    pressKey(slider, Qt::Key_Down);
+    QCOMPARE(slider->value(), 11);
+    pressKey(slider, Qt::Key_Up);
+    QCOMPARE(slider->value(), 10);
+}
+
+void tst_DeviceView::sliderMarksTheEdges()
+{
+    auto *const slider = child<DepthSlider>(m_view.get(), "m_depth");
+    QVERIFY(slider->edges() == std::vector<int>({8}));
+    vantrix_key_mapping key = clearedKey();
+    key.type = 3;
+    key.digital = {4, 5, 0, 60};
+    store().setKeyMapping(0, 0, 12, &key);
+    m_shell->apply();
+    emit pad()->currentKeyChanged(12);
+    QVERIFY(slider->edges() == std::vector<int>({8, 60}));
 }
 
 void tst_DeviceView::dualActions_data()

@@ -7,6 +7,7 @@
 
 #include <QBoxLayout>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -36,8 +37,10 @@ private slots:
     void anotherProfileEmptiesTheListSilently();
     void clickSelectsAndSecondClickTakesBack();
     void clickOnAnotherMovesTheSelection();
+    void dragIsOneClick();
     void spaceSelects();
     void arrowKeysSelectNothing();
+    void typingSelectsNothing();
     void showingASelectionIsSilent();
     void clickAfterShowing();
     void clearingTheSelectionIsSilent();
@@ -334,6 +337,23 @@ void tst_MacroWid::clickOnAnotherMovesTheSelection()
     QCOMPARE(panel.selected(), QStringList({"M3 - C"}));
 }
 
+void tst_MacroWid::dragIsOneClick()
+{
+    Panel panel({"A", "B", "C"});
+    QWidget *const viewport = panel.list()->viewport();
+    const auto at = [&panel](int row) {
+        return panel.list()->visualItemRect(panel.list()->item(row)).center();
+    };
+    QTest::mousePress(viewport, Qt::LeftButton, {}, at(0));
+    for (QPoint point = at(0); point.y() <= at(2).y(); point += QPoint(1, 4)) {
+        QMouseEvent move(QEvent::MouseMove, point, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(viewport, &move);
+    }
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, at(2));
+    QCOMPARE(panel.takeAssigned(), QStringList({"M1 A on"}));
+    QCOMPARE(panel.selected(), QStringList({"M1 - A"}));
+}
+
 void tst_MacroWid::spaceSelects()
 {
     Panel panel({"A", "B"});
@@ -359,6 +379,19 @@ void tst_MacroWid::arrowKeysSelectNothing()
     pressKey(panel.list(), Qt::Key_Down);
     pressKey(panel.list(), Qt::Key_End);
     pressKey(panel.list(), Qt::Key_Up);
+    QCOMPARE(panel.takeAssigned(), QStringList());
+    QCOMPARE(panel.selected(), QStringList({"M1 - A"}));
+}
+
+void tst_MacroWid::typingSelectsNothing()
+{
+    Panel panel({"A", "B", "C"});
+    panel.list()->setFocus();
+    panel.click(0);
+    panel.takeAssigned();
+    typeInto(panel.list(), QStringLiteral("m2"));
+    pressKey(panel.list(), Qt::Key_A, Qt::ControlModifier);
+    pressKey(panel.list(), Qt::Key_Down, Qt::ShiftModifier);
     QCOMPARE(panel.takeAssigned(), QStringList());
     QCOMPARE(panel.selected(), QStringList({"M1 - A"}));
 }

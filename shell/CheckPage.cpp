@@ -62,7 +62,7 @@ CheckPage::CheckPage(ShellContext &context, QWidget *parent)
     const ProfileStore &store = context.store();
     connect(m_scope, &QButtonGroup::idClicked, this, &CheckPage::refresh);
     connect(&context, &ShellContext::profileShown, this, &CheckPage::later);
-    connect(&context, &ShellContext::applyRequested, this, &CheckPage::sayCount);
+    connect(&context, &ShellContext::applied, this, &CheckPage::sayCount);
     connect(&store, &ProfileStore::profileChanged, this, &CheckPage::later);
     connect(&store, &ProfileStore::profileListChanged, this, &CheckPage::later);
     connect(&store, &ProfileStore::macrosChanged, this, &CheckPage::later);
@@ -103,8 +103,11 @@ void CheckPage::sayCount()
 {
     const auto count =
         int(ProfileCheck(m_context.store(), m_context.owner()).check(m_context.profile()).size());
-    if (count > 0)
-        emit m_context.status(tr("%1 See CHECK.").arg(countText(count)));
+    if (count == 0)
+        return;
+    const QString name =
+        m_context.store().state().profileName(m_context.owner(), m_context.profile());
+    emit m_context.status(tr("%1 is on the device. %2 See CHECK.").arg(name, countText(count)));
 }
 
 void CheckPage::refresh()

@@ -18,6 +18,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QResizeEvent>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolButton>
@@ -30,7 +31,7 @@ constexpr int RoomForBoth = 1180;
 constexpr int SideWidth = 430;
 /// Width of the window below which the profiles are a strip of numbers.
 constexpr int RoomForNames = 1180;
-constexpr QSize InitialSize(1280, 900);
+constexpr QSize InitialSize(1384, 800);
 constexpr QSize MinimumSize(900, 600);
 
 QString geometryKey()
@@ -255,7 +256,7 @@ void MainWindow::restore()
     ProfileStore &store = m_context.store();
     const QByteArray geometry = QByteArray::fromBase64(store.setting(geometryKey()).toLatin1());
     if (geometry.isEmpty() || !restoreGeometry(geometry))
-        resize(InitialSize);
+        resize(InitialSize.boundedTo(screen()->availableSize()));
     m_capture->setChecked(store.setting(captureKey()) != QLatin1String("0"));
     m_mapping->setCaptureAllowed(m_capture->isChecked());
     const int profile = qBound(0, store.setting(profileKey()).toInt(), ProfileCount - 1);

@@ -138,6 +138,8 @@ void MappingView::apply()
     const bool isSent = m_context.device().send(DeviceImage::of(state, m_context.owner(), profile));
     emit m_context.status(isSent ? tr("%1 is on the device.").arg(name)
                                  : tr("%1 did not reach the device.").arg(name));
+    if (isSent)
+        emit m_context.applied();
 }
 
 void MappingView::onRequest(int command, void *request)

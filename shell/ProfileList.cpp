@@ -22,7 +22,7 @@ enum Role { ProfileRole = Qt::UserRole, DirtyRole, OnDeviceRole, MarkedRole };
 constexpr int RowHeight = 32;
 constexpr int NumberRowHeight = 26;
 constexpr int NumberWidth = 30;
-constexpr int FullWidth = 216;
+constexpr int FullWidth = 240;
 constexpr int CompactWidth = 60;
 /// Narrowest row that shows a name.
 constexpr int NameRowWidth = 120;
@@ -210,7 +210,10 @@ void ProfileList::setCompact(bool compact)
     m_buttons->setHidden(compact);
     m_list->setVerticalScrollBarPolicy(compact ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     layout()->setContentsMargins(compact ? 4 : 10, 10, compact ? 2 : 6, 10);
-    setFixedWidth(compact ? CompactWidth : FullWidth);
+    // A desktop with a large font needs more for the buttons.
+    m_buttons->ensurePolished();
+    const int full = qMax(FullWidth, m_buttons->sizeHint().width() + 16);
+    setFixedWidth(compact ? CompactWidth : full);
     m_list->doItemsLayout();
 }
 

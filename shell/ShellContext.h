@@ -64,6 +64,9 @@ signals:
     /// After the store has renamed it.
     void macroRenamed(const QString &oldName, const QString &newName);
 
+    /// The device has taken the shown profile.
+    void applied();
+
     /// Profile and key of all that light up; empty for none.
     void keysMarked(const std::set<std::pair<int, int>> &keys);
 

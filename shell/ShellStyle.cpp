@@ -4,10 +4,13 @@
 #include "vocabulary/KeyCodes.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QProxyStyle>
 #include <QStyleFactory>
 
 namespace {
+
+constexpr int OffscreenFontSize = 13;
 
 /// Buttons of dialogs are words, like all others.
 class Style : public QProxyStyle
@@ -69,6 +72,12 @@ QColor ShellStyle::warning()
 void ShellStyle::install()
 {
     QApplication::setStyle(new Style);
+    if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
+        // It has no desktop to ask for a font.
+        QFont font = QApplication::font();
+        font.setPixelSize(OffscreenFontSize);
+        QApplication::setFont(font);
+    }
     QPalette palette;
     palette.setColor(QPalette::Window, window());
     palette.setColor(QPalette::WindowText, text());

@@ -135,15 +135,16 @@ void tst_CheckPage::applySaysTheCount()
     m_shell->assign(3, 5);
     m_shell->assign(9, 5);
     QSignalSpy said(&m_shell->context, &ShellContext::status);
-    emit m_shell->context.applyRequested();
+    emit m_shell->context.applied();
     QCOMPARE(said.count(), 1);
-    QCOMPARE(said[0][0].toString(), QStringLiteral("One thing to look at. See CHECK."));
+    QCOMPARE(said[0][0].toString(),
+             QStringLiteral("PROFILE 1 is on the device. One thing to look at. See CHECK."));
 }
 
 void tst_CheckPage::applySaysNothingWhenAllIsRight()
 {
     QSignalSpy said(&m_shell->context, &ShellContext::status);
-    emit m_shell->context.applyRequested();
+    emit m_shell->context.applied();
     QCOMPARE(said.count(), 0);
 }
 

@@ -4,6 +4,31 @@
 #include <QFileDialog>
 #include <QMessageBox>
 
+namespace {
+
+/// Runs a box that its parent may take along while it is open; the parent would delete a box on
+/// the stack as well. 0 when the box went that way.
+int runBox(QMessageBox::Icon icon, QWidget *parent, const QString &title, const QString &text,
+           QMessageBox::StandardButtons buttons)
+{
+    const QPointer<QMessageBox> box = new QMessageBox(icon, title, text, buttons, parent);
+    const int answer = box->exec();
+    delete box;
+    return answer;
+}
+
+/// The same for a file dialog; empty when nothing was chosen.
+QString runFileDialog(QFileDialog *fileDialog)
+{
+    const QPointer<QFileDialog> dialog = fileDialog;
+    const bool isAccepted = dialog->exec() == QDialog::Accepted;
+    const QString file = dialog && isAccepted ? dialog->selectedFiles().value(0) : QString();
+    delete dialog;
+    return file;
+}
+
+} // namespace
+
 Modal::Modal(QObject *parent) : QObject(parent) {}
 
 Modal *Modal::instance()
@@ -43,7 +68,8 @@ void Modal::warning(QWidget *parent, const QString &title, const QString &text)
     prompt.parent = parent;
     prompt.title = title;
     prompt.text = text;
-    instance()->ask(prompt, [&] { return int(QMessageBox::warning(parent, title, text)); });
+    instance()->ask(
+        prompt, [&] { return runBox(QMessageBox::Warning, parent, title, text, QMessageBox::Ok); });
 }
 
 int Modal::question(QWidget *parent, const QString &title, const QString &text)
@@ -54,7 +80,8 @@ int Modal::question(QWidget *parent, const QString &title, const QString &text)
     prompt.title = title;
     prompt.text = text;
     const auto user = [&] {
-        return int(QMessageBox::question(parent, title, text) == QMessageBox::Yes);
+        return int(runBox(QMessageBox::Question, parent, title, text,
+                          QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes);
     };
     return instance()->ask(prompt, user).toInt();
 }
@@ -68,7 +95,9 @@ QString Modal::openFileName(QWidget *parent, const QString &title, const QString
     prompt.title = title;
     prompt.text = filter;
     const auto user = [&] {
-        return QFileDialog::getOpenFileName(parent, title, dir, filter);
+        auto *const dialog = new QFileDialog(parent, title, dir, filter);
+        dialog->setFileMode(QFileDialog::ExistingFile);
+        return runFileDialog(dialog);
     };
     return instance()->ask(prompt, user).toString();
 }
@@ -82,7 +111,9 @@ QString Modal::saveFileName(QWidget *parent, const QString &title, const QString
     prompt.title = title;
     prompt.text = filter;
     const auto user = [&] {
-        return QFileDialog::getSaveFileName(parent, title, file, filter);
+        auto *const dialog = new QFileDialog(parent, title, file, filter);
+        dialog->setAcceptMode(QFileDialog::AcceptSave);
+        return runFileDialog(dialog);
     };
     return instance()->ask(prompt, user).toString();
 }

@@ -5,8 +5,11 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTimer>
 
 class tst_Modal : public QObject
@@ -21,7 +24,10 @@ private slots:
     void dialogIsAnswered();
     void openingAndClosedFrameThePrompt();
     void realBoxesWork();
+    void realFileDialogsWork();
     void dialogDestroyedWhileOpen();
+    void boxesDestroyedWhileOpen_data();
+    void boxesDestroyedWhileOpen();
 };
 
 void tst_Modal::cleanup()
@@ -118,6 +124,72 @@ void tst_Modal::dialogDestroyedWhileOpen()
     auto *dialog = new QDialog(parent);
     QTimer::singleShot(0, this, [&] { delete parent; });
     QCOMPARE(Modal::exec(dialog), int(QDialog::Rejected));
+}
+
+void tst_Modal::realFileDialogsWork()
+{
+    QTemporaryDir folder;
+    const QString there = folder.filePath("there.exe");
+    QFile file(there);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    const auto answer = [this](const QString &name, bool isSave) {
+        QTimer::singleShot(0, this, [name, isSave] {
+            auto *const dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            QCOMPARE(dialog->acceptMode() == QFileDialog::AcceptSave, isSave);
+            QCOMPARE(dialog->nameFilters(), QStringList({"execute(*.exe)"}));
+            if (name.isEmpty()) {
+                dialog->reject();
+                return;
+            }
+            dialog->selectFile(name);
+            QTest::keyClick(dialog->findChild<QLineEdit *>(), Qt::Key_Return);
+        });
+    };
+    answer(there, false);
+    QCOMPARE(Modal::openFileName(nullptr, "Open File", folder.path(), "execute(*.exe)"), there);
+    answer(QString(), false);
+    QCOMPARE(Modal::openFileName(nullptr, "Open File", folder.path(), "execute(*.exe)"), QString());
+    const QString fresh = folder.filePath("fresh.exe");
+    answer(fresh, true);
+    QCOMPARE(Modal::saveFileName(nullptr, "Save", fresh, "execute(*.exe)"), fresh);
+    answer(QString(), true);
+    QCOMPARE(Modal::saveFileName(nullptr, "Save", fresh, "execute(*.exe)"), QString());
+}
+
+void tst_Modal::boxesDestroyedWhileOpen_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::newRow("warning") << 0;
+    QTest::newRow("question") << 1;
+    QTest::newRow("open file") << 2;
+    QTest::newRow("save file") << 3;
+}
+
+void tst_Modal::boxesDestroyedWhileOpen()
+{
+    QFETCH(int, kind);
+    auto *const parent = new QWidget;
+    QTimer::singleShot(0, this, [parent] { delete parent; });
+    QObject context;
+    int closed = 0;
+    connect(Modal::instance(), &Modal::closed, &context, [&closed] { ++closed; });
+    switch (kind) {
+    case 0:
+        Modal::warning(parent, "warning", "text");
+        break;
+    case 1:
+        QCOMPARE(Modal::question(parent, "Reset", "Really?"), 0);
+        break;
+    case 2:
+        QCOMPARE(Modal::openFileName(parent, "Open File", QString(), "execute(*.exe)"), QString());
+        break;
+    default:
+        QCOMPARE(Modal::saveFileName(parent, "Save", "a.exe", "execute(*.exe)"), QString());
+        break;
+    }
+    QCOMPARE(closed, 1);
 }
 
 VANTRIX_TEST_MAIN(tst_Modal)

@@ -7,6 +7,8 @@
 
 #include "ui_AppPathDlg.h"
 
+#include <QPointer>
+
 namespace {
 
 /// The picture of the function that launches the application; null for an unknown type.
@@ -43,9 +45,10 @@ AppPathDlg::~AppPathDlg() = default;
 
 void AppPathDlg::slotPathChanged()
 {
+    const QPointer<AppPathDlg> alive(this);
     const QString path = CfgFile::getOpenFileName(reinterpret_cast<HWND>(winId()), tr("Open File"),
                                                   QString(), L"execute(*.exe)");
-    if (!path.isEmpty())
+    if (alive && !path.isEmpty())
         m_ui->m_path->setText(path);
 }
 

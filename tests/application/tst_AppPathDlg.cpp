@@ -43,6 +43,7 @@ private slots:
     void unchangedWritesNothing();
     void pathStoredMeanwhile();
     void enterApplies();
+    void mayGoWhileAFileIsChosen();
 
 private:
     /// A dialog for type 0 in which another path was chosen.
@@ -244,6 +245,20 @@ void tst_AppPathDlg::enterApplies()
     pressKey(child<QLineEdit>(dialog.get(), "m_path"), Qt::Key_Return);
     QVERIFY(!dialog->isVisible());
     QCOMPARE(stored(0), newPath);
+}
+
+void tst_AppPathDlg::mayGoWhileAFileIsChosen()
+{
+    auto *dialog = new AppPathDlg(0, nullptr);
+    dialog->show();
+    Modal::setAnswerer([&dialog](const ModalPrompt &) {
+        delete dialog;
+        dialog = nullptr;
+        return newPath;
+    });
+    clickOn(child<QToolButton>(dialog, QStringLiteral("m_dir")));
+    QVERIFY(!dialog);
+    QCOMPARE(stored(0), QString());
 }
 
 VANTRIX_TEST_MAIN(tst_AppPathDlg)

@@ -217,13 +217,16 @@ MouseKey *MouseKey::siblingAt(const QPoint &pos) const
     return found == siblings.end() ? nullptr : *found;
 }
 
-bool MouseKey::handOver(const QMouseEvent *event) const
+bool MouseKey::handOver(const QMouseEvent *event)
 {
-    if (!m_taker)
+    const QPointer<MouseKey> taker = m_taker;
+    if (!taker)
         return false;
-    const QPoint at = m_taker->mapFromParent(mapToParent(event->pos()));
+    if (event->type() == QEvent::MouseButtonRelease)
+        m_taker = nullptr;
+    const QPoint at = taker->mapFromParent(mapToParent(event->pos()));
     QMouseEvent copy(event->type(), at, event->button(), event->buttons(), event->modifiers());
-    QCoreApplication::sendEvent(m_taker, &copy);
+    QCoreApplication::sendEvent(taker, &copy);
     return true;
 }
 
@@ -252,9 +255,8 @@ void MouseKey::mouseReleaseEvent(QMouseEvent *event)
 {
     if (m_figure == Figure::Ring) {
         trackPointer(event->pos());
-        const bool handedOver = handOver(event);
-        m_taker = nullptr;
-        if (handedOver)
+        // A click may take the whole page away, so nothing may follow it.
+        if (handOver(event))
             return;
     }
     // Outside the ring the base class un-presses the button and sends nothing.

@@ -57,7 +57,7 @@ private:
     void setState(State state);
     void trackPointer(const QPoint &pos);
     MouseKey *siblingAt(const QPoint &pos) const;
-    bool handOver(const QMouseEvent *event) const;
+    bool handOver(const QMouseEvent *event);
     void drawHotSpot(QPainter *painter) const;
 
     ushort m_code;

@@ -61,6 +61,7 @@ private slots:
     void releaseOutsideUnpresses();
     void pointInASiblingsRingBelongsToIt();
     void dragToASiblingSendsNothing();
+    void panelMayGoInASiblingsClick();
     void moveRaisesAndLowers();
     void hoverShows();
     void checkedHasTheColorOfTheMouse();
@@ -323,6 +324,19 @@ void tst_MouseWid::dragToASiblingSendsNothing()
     for (const int code : {481, 483, 485, 487})
         QVERIFY(!key(panel, code)->isDown());
     QCOMPARE(spy.count(), 0);
+}
+
+void tst_MouseWid::panelMayGoInASiblingsClick()
+{
+    auto *panel = new MouseWid;
+    panel->resize(833, 263);
+    panel->show();
+    connect(panel, &MouseWid::sigMouseChanged, this, [&panel] {
+        delete panel;
+        panel = nullptr;
+    });
+    clickOn(key(*panel, 481), RingMiddles.at(483));
+    QVERIFY(!panel);
 }
 
 void tst_MouseWid::moveRaisesAndLowers()

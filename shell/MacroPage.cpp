@@ -79,8 +79,7 @@ void MacroPage::setClock(MacroRecorder::Clock clock)
 
 // ---- building ----
 
-QPushButton *MacroPage::button(QWidget *parent, const char *name, const QString &text,
-                               void (MacroPage::*slot)())
+QPushButton *MacroPage::button(QWidget *parent, const char *name, const QString &text, Command slot)
 {
     auto *const made = new QPushButton(text, parent);
     made->setObjectName(QLatin1String(name));
@@ -628,28 +627,35 @@ bool MacroPage::recordEvent(QEvent *event)
     }
 }
 
-bool MacroPage::shortcut(const QObject *list, const QKeyEvent *event)
+/// What a key does in one of the two lists; null for a key of no meaning there.
+MacroPage::Command MacroPage::commandOf(const QObject *list, const QKeyEvent *event) const
 {
-    const bool isMove = event->modifiers() == Qt::AltModifier;
-    if (event->key() == Qt::Key_Delete)
-        list == m_macroList ? deleteMacro() : deleteEvents();
-    else if (event->key() == Qt::Key_F2 && list == m_macroList)
-        renameMacro();
-    else if (event->key() == Qt::Key_Up && isMove && list == m_eventTable)
-        moveUp();
-    else if (event->key() == Qt::Key_Down && isMove && list == m_eventTable)
-        moveDown();
-    else
-        return false;
-    return true;
+    const bool isMacros = list == m_macroList;
+    if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier)
+        return isMacros ? &MacroPage::deleteMacro : &MacroPage::deleteEvents;
+    if (event->key() == Qt::Key_F2 && isMacros)
+        return &MacroPage::renameMacro;
+    if (event->modifiers() != Qt::AltModifier || isMacros)
+        return nullptr;
+    if (event->key() == Qt::Key_Up)
+        return &MacroPage::moveUp;
+    return event->key() == Qt::Key_Down ? &MacroPage::moveDown : nullptr;
 }
 
 bool MacroPage::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_recordPad)
         return m_recorder->isRecording() && recordEvent(event);
-    if (event->type() == QEvent::KeyPress && shortcut(watched, static_cast<QKeyEvent *>(event)))
-        return true;
+    const bool isPress = event->type() == QEvent::KeyPress;
+    // where the window has a shortcut of the same key, the list comes first
+    if (isPress || event->type() == QEvent::ShortcutOverride) {
+        if (const Command command = commandOf(watched, static_cast<QKeyEvent *>(event))) {
+            event->accept();
+            if (isPress)
+                (this->*command)();
+            return true;
+        }
+    }
     return QWidget::eventFilter(watched, event);
 }
 

@@ -48,12 +48,13 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    using Command = void (MacroPage::*)();
+
     QWidget *makeList();
     QWidget *makeEditor();
     QWidget *makeRecordRow(QWidget *parent);
     QWidget *makeEventRow(QWidget *parent);
-    QPushButton *button(QWidget *parent, const char *name, const QString &text,
-                        void (MacroPage::*slot)());
+    QPushButton *button(QWidget *parent, const char *name, const QString &text, Command slot);
 
     void refresh();
     void refreshList();
@@ -86,7 +87,7 @@ private:
     void onRecordingStopped();
     void connectRecorder();
     bool recordEvent(QEvent *event);
-    bool shortcut(const QObject *list, const QKeyEvent *event);
+    Command commandOf(const QObject *list, const QKeyEvent *event) const;
 
     ShellContext &m_context;
     MacroRecorder *m_recorder;

@@ -9,6 +9,9 @@
 
 namespace {
 
+/// Leaves the two lines of text some air.
+constexpr int TwoLinesHeight = 42;
+
 const std::map<int, const char *> &typeTexts()
 {
     // clang-format off
@@ -35,6 +38,7 @@ DualActionType::DualActionType(int type, QWidget *parent) : QPushButton(parent)
     const auto row = typeTexts().find(type);
     if (row != typeTexts().end())
         setText(tr(row->second));
+    setMinimumHeight(TwoLinesHeight);
     lower();
 }
 

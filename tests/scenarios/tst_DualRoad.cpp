@@ -1,0 +1,178 @@
+#include "XGestures.h"
+#include "core/VantrixMapWid.h"
+#include "dualaction/ActionAssignWid.h"
+#include "dualaction/ActionWid.h"
+#include "panels/InputWid.h"
+#include "shell/MainWindow.h"
+#include "shell/MappingView.h"
+#include "support/Gestures.h"
+#include "support/TestMain.h"
+
+#include <QButtonGroup>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+#include <memory>
+
+/// A person gives keys two actions, with real keys and the mouse, and sends them to the device.
+class tst_DualRoad : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void realKeysChoose();
+    void bothActionsReachTheDevice();
+    void backAndResize();
+    void leavingTheMappingView();
+
+private:
+    QPushButton *key(int keyIdx)
+    {
+        return child<QPushButton>(m_window.get(), QStringLiteral("key_%1").arg(keyIdx));
+    }
+    ActionAssignWid *overlay() { return m_window->findChild<ActionAssignWid *>(); }
+    void open(int number, int input);
+    void closeWith(const char *button);
+    bool isHoleAroundTheKeys();
+    vantrix_key_mapping stored(int keyIdx)
+    {
+        return m_services->store().state().mapping(0, 0, keyIdx);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<HostServices> m_services;
+    std::unique_ptr<ShellContext> m_context;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+void tst_DualRoad::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_services = std::make_unique<HostServices>(m_folder->path());
+    m_context = std::make_unique<ShellContext>(*m_services);
+    m_window = std::make_unique<MainWindow>(*m_context);
+    m_window->move(0, 0);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    XGestures::focus(m_window.get());
+    auto *const inputs = m_window->findChild<InputWid *>();
+    XGestures::click(inputs->findChild<QButtonGroup *>()->button(6));
+}
+
+void tst_DualRoad::cleanup()
+{
+    m_window->close();
+    m_window.reset();
+    m_context.reset();
+    m_services.reset();
+    QVERIFY(!QWidget::keyboardGrabber());
+}
+
+/// The column's button, when its menu is closed, and a kind of function.
+void tst_DualRoad::open(int number, int input)
+{
+    auto *const action = child<ActionWid>(m_window.get(), number == 1 ? "m_action1" : "m_action2");
+    if (child<QWidget>(action, "m_assignMenu")->isHidden())
+        XGestures::click(child<QPushButton>(action, "m_action"));
+    XGestures::click(action->findChild<QButtonGroup *>()->button(input));
+    QVERIFY(overlay()->isVisible());
+}
+
+void tst_DualRoad::closeWith(const char *button)
+{
+    XGestures::click(child<QPushButton>(overlay(), button));
+    QVERIFY(!overlay()->isVisible());
+    QVERIFY(!QWidget::keyboardGrabber());
+}
+
+bool tst_DualRoad::isHoleAroundTheKeys()
+{
+    QWidget *const under = overlay()->parentWidget();
+    QRect keys;
+    for (int keyIdx = 0; keyIdx < 24; ++keyIdx)
+        keys |= QRect(key(keyIdx)->mapTo(under, QPoint(0, 0)), key(keyIdx)->size());
+    const QRegion hole = QRegion(under->rect()) - overlay()->mask();
+    return (QRegion(keys) - hole).isEmpty() && hole.boundingRect().width() < 2 * keys.width();
+}
+
+void tst_DualRoad::realKeysChoose()
+{
+    const vantrix_key_mapping before = stored(8);
+    XGestures::click(key(7));
+    open(1, 0);
+    XGestures::key(QStringLiteral("b"));
+    QCOMPARE(key(7)->text(), QStringLiteral("B"));
+    XGestures::click(key(8));
+    QVERIFY(key(8)->isChecked());
+    XGestures::key(QStringLiteral("Escape"));
+    QVERIFY(overlay()->isVisible());
+    QCOMPARE(key(8)->text(), QStringLiteral("ESC"));
+    XGestures::key(QStringLiteral("Shift_R"));
+    QCOMPARE(key(8)->toolTip().isEmpty() ? key(8)->text() : key(8)->toolTip(),
+             QStringLiteral("R_SHIFT"));
+    QCOMPARE(stored(8), before);
+    closeWith("m_apply");
+    QCOMPARE(int(stored(7).type), 3);
+    QCOMPARE(ushort(stored(7).digital.firstAction), ushort(5));
+    QCOMPARE(int(stored(8).type), 3);
+    QCOMPARE(ushort(stored(8).digital.firstAction), ushort(229));
+    QCOMPARE(int(stored(8).digital.depth), 50);
+}
+
+void tst_DualRoad::bothActionsReachTheDevice()
+{
+    XGestures::click(key(7));
+    open(1, 0);
+    XGestures::key(QStringLiteral("b"));
+    closeWith("m_apply");
+    open(2, 1);
+    XGestures::click(
+        child<QWidget>(overlay(), "m_mouse")->findChild<QButtonGroup *>()->button(497));
+    closeWith("m_apply");
+    XGestures::click(child<QPushButton>(m_window->findChild<VantrixMapWid *>(), "m_apply"));
+    const auto image = m_services->device().image(0, 0);
+    const vantrix_key_mapping sent = image.keys[7].content.mapping;
+    QCOMPARE(sent, stored(7));
+    QCOMPARE(int(sent.type), 3);
+    QCOMPARE(ushort(sent.digital.firstAction), ushort(5));
+    QCOMPARE(ushort(sent.digital.secondAction), ushort(497));
+    QCOMPARE(int(sent.digital.dualType), 0);
+}
+
+void tst_DualRoad::backAndResize()
+{
+    const QString before = key(9)->text();
+    const vantrix_key_mapping stays = stored(9);
+    XGestures::click(key(9));
+    open(1, 0);
+    XGestures::key(QStringLiteral("b"));
+    QCOMPARE(key(9)->text(), QStringLiteral("B"));
+    m_window->resize(m_window->width() + 100, m_window->height() - 60);
+    QTRY_COMPARE(overlay()->size(), overlay()->parentWidget()->size());
+    // The hole has moved along.
+    QTRY_VERIFY(isHoleAroundTheKeys());
+    XGestures::click(key(13));
+    QVERIFY(key(13)->isChecked());
+    XGestures::click(key(9));
+    QVERIFY(key(9)->isChecked());
+    closeWith("m_back");
+    QCOMPARE(key(9)->text(), before);
+    QCOMPARE(stored(9), stays);
+}
+
+void tst_DualRoad::leavingTheMappingView()
+{
+    XGestures::click(key(9));
+    open(1, 0);
+    QVERIFY(QWidget::keyboardGrabber());
+    m_window->mappingView()->hide();
+    QVERIFY(!QWidget::keyboardGrabber());
+    QVERIFY(!overlay()->isVisible());
+    m_window->mappingView()->show();
+    QVERIFY(!overlay()->isVisible());
+}
+
+VANTRIX_TEST_MAIN(tst_DualRoad)
+#include "tst_DualRoad.moc"

@@ -2,16 +2,31 @@
 #include "core/VantrixMapWid.h"
 #include "shell/MainWindow.h"
 #include "shell/MappingView.h"
+#include "shell/PadView.h"
 #include "support/Gestures.h"
 #include "support/TestMain.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QTreeWidget>
 
+#include <functional>
 #include <memory>
+
+namespace {
+
+constexpr int PatienceMs = 20000;
+/// Until a dialog that has come up takes keys.
+constexpr int SettleMs = 300;
+
+} // namespace
 
 /// Stories of a session in the shell's window, with real mouse and keyboard.
 class tst_ShellRoads : public QObject
@@ -24,15 +39,34 @@ private slots:
     void profiles();
     void undoAcrossRestart();
     void whatApplyWillChange();
+    void macroIsRecordedAndAssigned();
+    void createMacroLeadsThereAndBack();
+    void exportAndImport();
+    void devicePlays();
+    void findGoesThere();
+    void checkLeadsToTheKey();
+    void settingsChangeTheLegends();
     void keyboardAlone();
 
 private:
     void open();
     void close();
+    /// Works a dialog that `shortcut` or a click opens: `work` runs while it is open.
+    void inDialog(const std::function<void()> &opener, const std::function<void()> &work);
     template <typename T>
     T *get(const char *name)
     {
         return child<T>(m_window.get(), QString::fromLatin1(name));
+    }
+    /// A button of the page by its text.
+    void click(const char *text)
+    {
+        const auto buttons = m_window->mappingView()->findChildren<QPushButton *>();
+        for (QPushButton *button : buttons) {
+            if (button->isVisible() && button->text() == QLatin1String(text))
+                return XGestures::click(button);
+        }
+        QFAIL(text);
     }
     QPushButton *key(int keyIdx)
     {
@@ -132,6 +166,167 @@ void tst_ShellRoads::whatApplyWillChange()
     const auto image = m_services->device().image(0, 0);
     QCOMPARE(ushort(image.keys[7].content.mapping.code), ushort(5));
     QCOMPARE(ushort(image.keys[8].content.mapping.code), ushort(255));
+}
+
+void tst_ShellRoads::inDialog(const std::function<void()> &opener,
+                              const std::function<void()> &work)
+{
+    bool isOpen = false;
+    bool isDone = false;
+    const QWidget *const before = QApplication::activeModalWidget();
+    QTimer::singleShot(0, m_window.get(), [&] {
+        isOpen = QTest::qWaitFor(
+            [before] {
+                const QWidget *const now = QApplication::activeModalWidget();
+                return now && now != before && now->isVisible();
+            },
+            PatienceMs);
+        QTest::qWait(SettleMs);
+        work();
+        isDone = true;
+    });
+    opener();
+    QTRY_VERIFY(isDone);
+    QVERIFY(isOpen);
+}
+
+void tst_ShellRoads::macroIsRecordedAndAssigned()
+{
+    XGestures::key(QStringLiteral("ctrl+4"));
+    XGestures::click(get<QPushButton>("m_newBtn"));
+    const QString name = state().macroNames(0).value(0);
+    QVERIFY(!name.isEmpty());
+    XGestures::click(get<QPushButton>("m_recordBtn"));
+    XGestures::key(QStringLiteral("h"));
+    XGestures::key(QStringLiteral("i"));
+    XGestures::click(get<QPushButton>("m_recordBtn"));
+    m_services->store().flush();
+    const auto macro = state().macro(0, name);
+    QVERIFY(macro);
+    QCOMPARE(int(macro->count), 4);
+    QCOMPARE(ushort(macro->events[0].code), ushort(11));
+    QCOMPARE(ushort(macro->events[2].code), ushort(12));
+
+    XGestures::click(get<QPushButton>("m_tab0"));
+    XGestures::click(key(7));
+    click("MACRO");
+    auto *const list = m_window->mappingView()->findChild<QListWidget *>("m_macroList");
+    XGestures::click(list->viewport(), list->visualItemRect(list->item(0)).center());
+    QCOMPARE(key(7)->text(), QStringLiteral("M1"));
+    QCOMPARE(state().macroKey(0, 0, 7).value_or(QString()), name);
+}
+
+void tst_ShellRoads::createMacroLeadsThereAndBack()
+{
+    XGestures::click(key(7));
+    click("MACRO");
+    auto *const create = m_window->mappingView()->findChild<QPushButton *>("m_createBtn");
+    XGestures::click(create);
+    QCOMPARE(m_window->shownPage(), ShellPage::Macros);
+    QCOMPARE(state().macroNames(0).size(), 1);
+    XGestures::click(get<QPushButton>("m_tab0"));
+    QVERIFY(key(7)->isChecked());
+}
+
+void tst_ShellRoads::exportAndImport()
+{
+    XGestures::click(key(7));
+    XGestures::click(get<QPushButton>("btn_48"));
+    XGestures::click(key(7));
+    m_services->store().flush();
+    const QString file = m_folder->filePath(QStringLiteral("kept.json"));
+    const ProfileKeys before = state().keys(0, 0);
+    inDialog([this] { get<QAction>("m_exportAction")->trigger(); },
+             [&] {
+                 inDialog([] { XGestures::key(QStringLiteral("Return")); },
+                          [&] {
+                              XGestures::key(QStringLiteral("ctrl+a"));
+                              XGestures::type(file);
+                              XGestures::key(QStringLiteral("Return"));
+                          });
+             });
+    QTRY_VERIFY(QFile::exists(file));
+    m_services->store().clearProfile(0, 0);
+    m_services->store().flush();
+    QCOMPARE(key(7)->text(), QStringLiteral("W"));
+    inDialog([this] { get<QAction>("m_importAction")->trigger(); },
+             [&] {
+                 auto *const open = get<QPushButton>("m_importOpenBtn");
+                 inDialog([open] { XGestures::click(open); },
+                          [&] {
+                              XGestures::type(file);
+                              XGestures::key(QStringLiteral("Return"));
+                          });
+                 XGestures::click(get<QPushButton>("m_importBtn"));
+                 if (auto *const rest = m_window->findChild<QPushButton *>("m_importCancelBtn"))
+                     rest->click();
+             });
+    QVERIFY(state().keys(0, 0) == before);
+    QCOMPARE(key(7)->text(), QStringLiteral("B"));
+}
+
+void tst_ShellRoads::devicePlays()
+{
+    XGestures::click(key(7));
+    XGestures::click(get<QPushButton>("btn_48"));
+    XGestures::click(get<QPushButton>("m_apply"));
+    XGestures::key(QStringLiteral("ctrl+5"));
+    auto *const view = get<QWidget>("m_deviceView");
+    auto *const pad = child<PadView>(view, QStringLiteral("m_pad"));
+    auto *const log = child<QTreeWidget>(view, QStringLiteral("m_log"));
+    XGestures::click(pad, pad->keyRect(7).center().toPoint());
+    QTRY_COMPARE(log->topLevelItemCount(), 2);
+    QVERIFY(log->topLevelItem(0)->text(2).endsWith(QStringLiteral("press B")));
+    QVERIFY(log->topLevelItem(1)->text(2).endsWith(QStringLiteral("release B")));
+}
+
+void tst_ShellRoads::findGoesThere()
+{
+    const vantrix_key_mapping mapping = plainKey(69);
+    m_services->store().setKeyMapping(0, 4, 12, &mapping);
+    m_services->store().flush();
+    XGestures::key(QStringLiteral("ctrl+f"));
+    XGestures::type(QStringLiteral("f12"));
+    XGestures::key(QStringLiteral("Return"));
+    QCOMPARE(m_context->profile(), 4);
+    QVERIFY(key(12)->isChecked());
+    QCOMPARE(m_services->store().getCurrentKey(0, 4), 12);
+}
+
+void tst_ShellRoads::checkLeadsToTheKey()
+{
+    m_services->store().setNamedMacroKey(0, 0, "Lost", 9);
+    m_services->store().flush();
+    XGestures::key(QStringLiteral("ctrl+6"));
+    QPushButton *chip = nullptr;
+    const auto buttons = get<QWidget>("m_checkPage")->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->text() == QStringLiteral("Key 9"))
+            chip = button;
+    }
+    QVERIFY(chip);
+    XGestures::click(chip);
+    QCOMPARE(m_window->shownPage(), ShellPage::Mapping);
+    QVERIFY(key(9)->isChecked());
+}
+
+void tst_ShellRoads::settingsChangeTheLegends()
+{
+    m_services->environment().setLanguage(2);
+    m_services->store().setSetting(QStringLiteral("language"), QStringLiteral("2"));
+    m_services->store().flush();
+    XGestures::click(key(16));
+    XGestures::click(get<QPushButton>("m_tab1")); // the page lets go of the keyboard
+    inDialog([] { XGestures::key(QStringLiteral("ctrl+comma")); },
+             [this] {
+                 get<QComboBox>("m_language")->setFocus();
+                 XGestures::type(QStringLiteral("german"));
+                 XGestures::key(QStringLiteral("Return"));
+             });
+    QTRY_COMPARE(m_services->environment().getLanguage(), 4);
+    XGestures::key(QStringLiteral("ctrl+1"));
+    QVERIFY(key(16)->isChecked());
+    QCOMPARE(get<QPushButton>("btn_21")->text(), QStringLiteral("Z"));
 }
 
 /// A key is chosen and given a function without the mouse and without capture.

@@ -27,6 +27,8 @@ private slots:
     void firstRoad();
     void undoShowsInSimpleMode();
     void undoShowsInAdvancedMode();
+    void undoOfAPreset();
+    void undoOfADepth();
     void undoGoesToItsProfile();
     void stepsHaveNames();
     void historyTravels();
@@ -150,6 +152,42 @@ void tst_MainWindow::undoShowsInAdvancedMode()
     QVERIFY(key(9)->isChecked());
     QCOMPARE(m_shell->store().getMode(0, 0), 1);
     QVERIFY(child<QPushButton>(page(), "m_advanced")->isChecked());
+}
+
+void tst_MainWindow::undoOfAPreset()
+{
+    assign(7, "btn_48");
+    const QByteArray before = contents();
+    const int transactions = m_shell->store().transactionCount();
+    m_window->mappingView()->page()->slotPanelChanged(0, 2);
+    m_shell->store().flush();
+    QCOMPARE(m_shell->store().transactionCount(), transactions + 1);
+    QCOMPARE(code(7), ushort(0x60));
+    QCOMPARE(key(7)->text().simplified(), QStringLiteral("8"));
+    m_window->undo();
+    QCOMPARE(contents(), before);
+    QCOMPARE(key(7)->text(), QStringLiteral("B"));
+    QVERIFY(key(7)->isChecked());
+    QCOMPARE(said(), QStringLiteral("Undone: Preset: Numpad Mode"));
+}
+
+void tst_MainWindow::undoOfADepth()
+{
+    vantrix_key_mapping dual = clearedKey();
+    dual.type = 3;
+    dual.digital = {4, 5, 0, 50};
+    m_shell->store().setKeyMapping(0, 0, 7, &dual);
+    m_shell->store().flush();
+    m_window->mappingView()->showProfile(0, 7);
+    QCOMPARE(key(7)->text(), QStringLiteral("50%"));
+    dual.digital.depth = 70;
+    m_shell->store().setKeyMapping(0, 0, 7, &dual);
+    m_shell->store().flush();
+    m_window->mappingView()->refresh();
+    QCOMPARE(key(7)->text(), QStringLiteral("70%"));
+    m_window->undo();
+    QCOMPARE(key(7)->text(), QStringLiteral("50%"));
+    QVERIFY(key(7)->isChecked());
 }
 
 void tst_MainWindow::undoGoesToItsProfile()

@@ -23,6 +23,7 @@
 namespace {
 
 constexpr int PatienceMs = 20000;
+constexpr int PollMs = 50;
 /// Until a dialog that has come up takes keys.
 constexpr int SettleMs = 300;
 
@@ -171,23 +172,22 @@ void tst_ShellRoads::whatApplyWillChange()
 void tst_ShellRoads::inDialog(const std::function<void()> &opener,
                               const std::function<void()> &work)
 {
-    bool isOpen = false;
     bool isDone = false;
     const QWidget *const before = QApplication::activeModalWidget();
-    QTimer::singleShot(0, m_window.get(), [&] {
-        isOpen = QTest::qWaitFor(
-            [before] {
-                const QWidget *const now = QApplication::activeModalWidget();
-                return now && now != before && now->isVisible();
-            },
-            PatienceMs);
+    // A timer goes on in the dialog's own event loop, which no waiting here would leave.
+    QTimer poll;
+    connect(&poll, &QTimer::timeout, &poll, [&] {
+        const QWidget *const now = QApplication::activeModalWidget();
+        if (!now || now == before || !now->isVisible())
+            return;
+        poll.stop();
         QTest::qWait(SettleMs);
         work();
         isDone = true;
     });
+    poll.start(PollMs);
     opener();
-    QTRY_VERIFY(isDone);
-    QVERIFY(isOpen);
+    QTRY_VERIFY_WITH_TIMEOUT(isDone, PatienceMs);
 }
 
 void tst_ShellRoads::macroIsRecordedAndAssigned()

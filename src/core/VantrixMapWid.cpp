@@ -383,6 +383,20 @@ void VantrixMapWid::updateMode(int mode)
     if (mode == Mode::Advanced)
         resizeAssignMenu();
     m_data->verticalLayout_2->activate();
+    tellCoveredCorners();
+}
+
+/// The pressure switch and APPLY stand over the panels' lower corners.
+void VantrixMapWid::tellCoveredCorners()
+{
+    const QRect panels = m_data->m_mapWid->geometry();
+    const QRect left = m_data->presso->geometry() & panels;
+    const QRect right = (m_data->apply->geometry() | m_data->reset->geometry()) & panels;
+    const auto corner = [&panels](const QRect &covered, int width) {
+        return covered.isEmpty() ? QSize(0, 0) : QSize(width, panels.bottom() + 1 - covered.top());
+    };
+    m_data->m_mapWid->setCoveredCorners(corner(left, left.right() + 1 - panels.left()),
+                                        corner(right, panels.right() + 1 - right.left()));
 }
 
 void VantrixMapWid::resizeAssignMenu()

@@ -96,6 +96,7 @@ private:
     int mode() const;
     void placeButtons();
     void placeSidePanels();
+    void tellCoveredCorners();
     void updateMode(int mode);
     void resizeAssignMenu();
     void updateMenuVisible(int mode);

@@ -42,11 +42,37 @@ QSize KeyboardWid::minimumSizeHint() const
     return {1, 1};
 }
 
+void KeyboardWid::setCoveredCorners(const QSize &left, const QSize &right)
+{
+    const QSize covered = left.expandedTo(right);
+    if (covered == m_coveredCorner)
+        return;
+    m_coveredCorner = covered;
+    fitKeyboard();
+}
+
 void KeyboardWid::resizeEvent(QResizeEvent *)
 {
-    const QSize room = contentsRect().marginsRemoved(layout()->contentsMargins()).size();
-    // The width of the keys follows from the height, and a panel may be too narrow for it.
-    const int height = std::clamp(room.height(), 0, m_keyboard->heightThatFits(room.width()));
+    fitKeyboard();
+}
+
+/// Between the covered corners or above them, whichever leaves more. The width of the keys follows
+/// from the height, and a panel may be too narrow for it.
+void KeyboardWid::fitKeyboard()
+{
+    QMargins margins = layout()->contentsMargins();
+    margins.setBottom(margins.top());
+    const QSize room = contentsRect().marginsRemoved(margins).size();
+    const auto fitting = [this](int width, int height) {
+        return std::clamp(height, 0, m_keyboard->heightThatFits(width));
+    };
+    const int between = fitting(room.width() - 2 * m_coveredCorner.width(), room.height());
+    const int above = fitting(room.width(), std::max(0, room.height() - m_coveredCorner.height()));
+    if (above > between)
+        margins.setBottom(margins.top() + m_coveredCorner.height());
+
+    layout()->setContentsMargins(margins);
+    const int height = std::max(between, above);
     const int width = m_keyboard->widthAtHeight(height);
     m_keyboard->setFixedSize(width, height);
     m_ui->widget->setFixedWidth(width);

@@ -2,6 +2,7 @@
 
 #include "core/records.h"
 
+#include <QSize>
 #include <QWidget>
 
 #include <memory>
@@ -26,6 +27,8 @@ public:
     void clearChecked();
     /// Takes every key of the real keyboard, or lets go.
     void setKeyCapture(bool on);
+    /// Sizes of the lower corners that something else covers; the keyboard keeps clear of both.
+    void setCoveredCorners(const QSize &left, const QSize &right);
 
     QSize minimumSizeHint() const override;
 
@@ -41,6 +44,9 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void fitKeyboard();
+
     std::unique_ptr<Ui::KeyboardUi> m_ui;
     Keyboard *m_keyboard;
+    QSize m_coveredCorner{0, 0}; ///< the larger of both in each direction
 };

@@ -112,6 +112,12 @@ void MapWid::setCaptureEnabled(bool enabled)
     updateCapture();
 }
 
+void MapWid::setCoveredCorners(const QSize &left, const QSize &right)
+{
+    m_ui->m_keyboard->setCoveredCorners(left, right);
+    m_ui->m_application->setContentsMargins(left.width(), 0, right.width(), 0);
+}
+
 void MapWid::setOverlayMask(const QRegion &keyBoardRegion)
 {
     m_ui->m_dual_action->setOverlayMask(keyBoardRegion);

@@ -36,6 +36,9 @@ public:
     void setCurrentInput(int input);
     /// The page's permission to capture keys; true until told otherwise.
     void setCaptureEnabled(bool enabled);
+    /// Sizes of the lower corners that the page covers with its own; what a person clicks keeps
+    /// clear of them.
+    void setCoveredCorners(const QSize &left, const QSize &right);
     /// Outline of the pad for the dual action overlay, in the coordinates of the widget that
     /// `sigGetVantrixMask` named.
     void setOverlayMask(const QRegion &keyBoardRegion);

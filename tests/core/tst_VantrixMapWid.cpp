@@ -35,6 +35,8 @@ private slots:
     void geometry();
     void heightOfThePanels_data();
     void heightOfThePanels();
+    void keyboardKeepsClearOfTheButtons_data();
+    void keyboardKeepsClearOfTheButtons();
     void advancedGeometry();
     void sizeStaysAsGiven_data();
     void sizeStaysAsGiven();
@@ -240,6 +242,28 @@ void tst_VantrixMapWid::heightOfThePanels()
     const int expected = room >= height / 2 ? room - room / 3 : room;
     QCOMPARE(find<QWidget>("m_mapWid")->maximumHeight(), qMax(0, expected));
     QCOMPARE(find<QWidget>("m_mapWid")->minimumHeight(), qMax(0, expected));
+}
+
+void tst_VantrixMapWid::keyboardKeepsClearOfTheButtons_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize size : {QSize(784, 808), QSize(1060, 806), QSize(1024, 700), QSize(1500, 900),
+                             QSize(1900, 600), QSize(800, 1200)})
+        QTest::addRow("%d by %d", size.width(), size.height()) << size;
+}
+
+void tst_VantrixMapWid::keyboardKeepsClearOfTheButtons()
+{
+    QFETCH(QSize, size);
+    m_page->resize(size);
+    QCoreApplication::processEvents();
+    const auto rectOf = [this](const QWidget *widget) {
+        return QRect(widget->mapTo(m_page, QPoint(0, 0)), widget->size());
+    };
+    const QRect keyboard = rectOf(m_page->findChild<Keyboard *>());
+    for (const char *const name : {"m_apply", "m_reset", "m_pressoWid"})
+        QVERIFY2(!keyboard.intersects(rectOf(find<QWidget>(name))), name);
+    QVERIFY(keyboard.width() > 300);
 }
 
 void tst_VantrixMapWid::advancedGeometry()

@@ -61,9 +61,10 @@ void ReadHotKeysThr::startRead()
 
 void ReadHotKeysThr::stopRead()
 {
-    m_bStop = true;
+    // Exchanges, not stores: they take over from the walk's last store, which is where the thread
+    // sanitizer sees that the walk is over.
+    m_bStop.exchange(true);
     wait(QDeadlineTimer(QDeadlineTimer::Forever));
-    // Takes over from the walk's last store, where a sanitizer sees that the walk is over.
     m_bStop.exchange(true);
 }
 

@@ -9,6 +9,7 @@
 #include "application/LevelWid.h"
 #include "interfaces/ButtonGroupEx.h"
 #include "support/Gestures.h"
+#include "support/QtUnderTsan.h"
 #include "support/TestMain.h"
 
 #include <QBoxLayout>

@@ -2,6 +2,7 @@
 
 #include "CatalogFolder.h"
 #include "application/HotKey.h"
+#include "support/QtUnderTsan.h"
 #include "support/TestMain.h"
 
 #include <QElapsedTimer>

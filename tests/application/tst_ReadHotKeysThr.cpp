@@ -1,6 +1,7 @@
 #include "application/ReadHotKeysThr.h"
 
 #include "CatalogFolder.h"
+#include "support/QtUnderTsan.h"
 #include "support/TestMain.h"
 
 #include <QRandomGenerator>

@@ -22,12 +22,17 @@ ActionAssignWid::~ActionAssignWid() = default;
 
 void ActionAssignWid::openOverlay(int actionNo, int inputType, QString strAction)
 {
-    m_actionNo = actionNo;
-    m_ui->m_action->setText(strAction);
+    setAction(actionNo, strAction);
     m_ui->m_map->setCurrentIndex(inputType);
     show();
     raise();
     m_ui->m_keyboard->setKeyCapture(inputType == InputType::Keyboard);
+}
+
+void ActionAssignWid::setAction(int actionNo, const QString &strAction)
+{
+    m_actionNo = actionNo;
+    m_ui->m_action->setText(strAction);
 }
 
 void ActionAssignWid::resetOverlay()

@@ -27,6 +27,8 @@ public:
 
     /// Opens for action 1 or 2 on the page of an InputType 0 to 2, with the action's title.
     void openOverlay(int actionNo, int inputType, QString strAction);
+    /// Aims what is picked from now on at action 1 or 2, and shows its title.
+    void setAction(int actionNo, const QString &strAction);
     /// Clears the check marks of the three pages.
     void resetOverlay();
     /// Hides the layer and lets the keyboard go, without a signal.

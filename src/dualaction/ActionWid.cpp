@@ -42,6 +42,11 @@ void ActionWid::setActionNo(int actionNo)
     m_ui->m_action->setText(tr("ACTION") + QStringLiteral("  ") + QString::number(actionNo));
 }
 
+QString ActionWid::title() const
+{
+    return m_ui->m_action->text();
+}
+
 void ActionWid::setInput(int inputType)
 {
     QAbstractButton *const button = m_group->button(inputType);
@@ -71,5 +76,5 @@ void ActionWid::slotActionClicked()
 
 void ActionWid::slotActionAssigned(int inputType)
 {
-    emit sigActionAssigned(m_actionNo, inputType, m_ui->m_action->text());
+    emit sigActionAssigned(m_actionNo, inputType, title());
 }

@@ -31,6 +31,7 @@ public:
 
     /// Number of the action, 1 or 2; it stands in the title.
     void setActionNo(int actionNo);
+    QString title() const;
     /// Shows the menu with a kind of input checked; any other kind changes nothing.
     void setInput(int inputType);
     /// Device code of the action, 0 for none.

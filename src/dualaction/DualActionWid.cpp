@@ -61,6 +61,7 @@ void DualActionWid::resetPanel()
     m_ui->m_distanceWid->setDistance(50);
     if (m_overlay)
         m_overlay->resetOverlay();
+    aimOverlay();
 }
 
 void DualActionWid::setOverlayMask(QRegion keyBoardRegion)
@@ -84,6 +85,7 @@ void DualActionWid::slotDualActionSelected(int input1, int input2, vantrix_press
     m_ui->m_action2->setKeyCode(key.secondAction);
     m_ui->m_action2->setActionEnabled(true);
     m_ui->m_distanceWid->setDistance(key.depth);
+    aimOverlay();
 }
 
 void DualActionWid::resizeEvent(QResizeEvent *event)
@@ -120,6 +122,15 @@ void DualActionWid::askMask()
         emit sigGetVantrixMask(m_overlay->parentWidget());
 }
 
+void DualActionWid::aimOverlay()
+{
+    if (!m_overlay || !m_overlay->isVisible())
+        return;
+    const bool isSecond = m_openedFor != 1 && m_ui->m_action1->keyCode() != 0;
+    const ActionWid *const action = isSecond ? m_ui->m_action2 : m_ui->m_action1;
+    m_overlay->setAction(isSecond ? 2 : 1, action->title());
+}
+
 void DualActionWid::slotActionAssigned(int actionNo, int inputType, QString strAction)
 {
     if (!m_overlay)
@@ -128,6 +139,7 @@ void DualActionWid::slotActionAssigned(int actionNo, int inputType, QString strA
         return;
     fitOverlay();
     emit sigGetVantrixMask(m_overlay->parentWidget());
+    m_openedFor = actionNo;
     m_overlay->openOverlay(actionNo, inputType, strAction);
 }
 

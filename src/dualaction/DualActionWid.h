@@ -20,6 +20,9 @@ class DualActionUi;
 /// keeps changes pending until the overlay's BACK or APPLY. The simple panel always writes
 /// `dualType` 0.
 ///
+/// A second action needs a first. When the overlay is open for action 2 and a key without a dual
+/// action is selected through its hole, what is picked becomes that key's first action.
+///
 /// The overlay is a child of the environment's main widget, held here and deleted with the panel;
 /// it may also go first.
 class DualActionWid : public QWidget
@@ -62,7 +65,9 @@ private:
     void createOverlay();
     void fitOverlay();
     void askMask();
+    void aimOverlay();
 
     const std::unique_ptr<Ui::DualActionUi> m_ui;
     QPointer<ActionAssignWid> m_overlay;
+    int m_openedFor = 1; ///< action that the overlay was last opened for
 };

@@ -5,6 +5,7 @@
 #include "fakes/FakeServices.h"
 #include "interfaces/ButtonGroupEx.h"
 #include "panels/Keyboard.h"
+#include "panels/MouseWid.h"
 #include "support/Gestures.h"
 #include "support/TestMain.h"
 
@@ -49,6 +50,7 @@ private slots:
     void backAndApplyArePassedOn();
     void maskIsTheWindowWithoutTheRegion();
     void resetKeepsTheOverlayOpen();
+    void secondActionNeedsAFirst();
     void overlayFollowsTheWindow();
     void closedOverlayFollowsSilently();
     void hidingThePageGoesBack();
@@ -403,6 +405,39 @@ void tst_DualActionWid::resetKeepsTheOverlayOpen()
     m_panel->resetPanel();
     QVERIFY(overlay()->isVisible());
     QVERIFY(QWidget::keyboardGrabber());
+}
+
+void tst_DualActionWid::secondActionNeedsAFirst()
+{
+    const auto title = [this] {
+        return child<QLabel>(overlay(), "m_action")->text();
+    };
+    const auto pick = [this](int code) {
+        emit child<MouseWid>(overlay(), "m_mouse")->sigMouseChanged(plainKey(ushort(code)));
+    };
+    m_panel->slotDualActionSelected(0, 12, digital(4, 0, 50));
+    open(2, 1);
+    pick(497);
+    QCOMPARE(lastRecord(), picked(497, digital(4, 497, 50)));
+
+    // A key without a dual action.
+    m_panel->resetPanel();
+    QCOMPARE(title(), QStringLiteral("ACTION  1"));
+    pick(488);
+    QCOMPARE(lastRecord(), picked(488, digital(488, 0, 50)));
+
+    // One with a dual action; its selection resets the panel first.
+    m_panel->resetPanel();
+    m_panel->slotDualActionSelected(0, 1, digital(5, 497, 30));
+    QCOMPARE(title(), QStringLiteral("ACTION  2"));
+    pick(489);
+    QCOMPARE(lastRecord(), picked(489, digital(5, 489, 30)));
+
+    // Opened for the first action it stays there.
+    clickOn(child<QPushButton>(overlay(), "m_back"));
+    open(1, 1);
+    m_panel->slotDualActionSelected(0, 1, digital(5, 497, 30));
+    QCOMPARE(title(), QStringLiteral("ACTION  1"));
 }
 
 void tst_DualActionWid::overlayFollowsTheWindow()

@@ -51,6 +51,7 @@ private slots:
     void stagedValuesAreShownAgain();
     void backAfterApplyChangesNothing();
     void bothActions();
+    void secondActionAcrossKeys();
     void leavingTheInputGoesBack();
     void anotherProfileDropsWhatIsStaged();
     void hole_data();
@@ -497,6 +498,26 @@ void tst_DualStaging::bothActions()
     const vantrix_key_mapping stored = profile().keys.at(1);
     QCOMPARE(stored, expected);
     QCOMPARE(key(1)->fullText(), QStringLiteral("65%"));
+}
+
+/// The overlay open for action 2, and a key without a first action selected through the hole.
+void tst_DualStaging::secondActionAcrossKeys()
+{
+    const auto keys = profile().keys;
+    clickAt(key(8));
+    open(2, 1);
+    pick(488);
+    clickAt(key(1));
+    pick(497);
+    QVERIFY(profile().keys == keys);
+    clickAt(key(9));
+    pick(489);
+    close("m_apply");
+    QCOMPARE(ushort(profile().keys[1].digital.firstAction), ushort(497));
+    QCOMPARE(ushort(profile().keys[8].digital.firstAction), ushort(4));
+    QCOMPARE(ushort(profile().keys[8].digital.secondAction), ushort(488));
+    QCOMPARE(ushort(profile().keys[9].digital.firstAction), ushort(5));
+    QCOMPARE(ushort(profile().keys[9].digital.secondAction), ushort(489));
 }
 
 void tst_DualStaging::leavingTheInputGoesBack()

@@ -276,8 +276,12 @@ void MainWindow::sayWhatIsPending()
         if (m_context.device().differs(m_context.owner(), profile))
             names << state.profileName(m_context.owner(), profile);
     }
-    m_firstStatus = names.isEmpty() ? tr("Everything is on the device.")
-                                    : tr("Not on the device yet: %1.").arg(names.join(tr(", ")));
+    if (!names.isEmpty())
+        m_firstStatus = tr("Not on the device yet: %1.").arg(names.join(tr(", ")));
+    else if (m_context.store().stepNames().isEmpty())
+        m_firstStatus = tr("Click a key of the pad, then choose what it does.");
+    else
+        m_firstStatus = tr("Everything is on the device.");
     m_status->setText(m_firstStatus);
 }
 

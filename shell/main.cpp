@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -158,6 +159,8 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("vantrix"));
     QApplication::setApplicationVersion(QStringLiteral("1.0.0"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/VantrixMap/logo.png")));
+    QApplication::setDesktopFileName(QStringLiteral("vantrix-shell"));
     ShellStyle::install();
     const Options options = readOptions(isHeadless);
     return isHeadless || options.isPrinting ? runHeadless(options) : runWindow(options);

@@ -49,7 +49,9 @@ private slots:
     void captureKeepsShortcutsOut();
     void captureEndsElsewhere();
     void reopening();
+    void reopeningWithNothingToApply();
     void secondShell();
+    void fullDisk();
     void titleAndCounts();
 
 private:
@@ -114,7 +116,7 @@ QByteArray tst_MainWindow::contents()
 
 void tst_MainWindow::firstRoad()
 {
-    QCOMPARE(said(), QStringLiteral("Everything is on the device."));
+    QCOMPARE(said(), QStringLiteral("Click a key of the pad, then choose what it does."));
     assign(7, "btn_48");
     QCOMPARE(key(7)->text(), QStringLiteral("B"));
     QCOMPARE(code(7), ushort(0x05));
@@ -442,6 +444,35 @@ void tst_MainWindow::reopening()
     m_window->undo();
     QCOMPARE(m_shell->context.profile(), 0);
     QCOMPARE(key(7)->text(), QStringLiteral("W"));
+}
+
+void tst_MainWindow::reopeningWithNothingToApply()
+{
+    assign(7, "btn_48");
+    click("m_apply");
+    m_window.reset();
+    open();
+    QCOMPARE(said(), QStringLiteral("Everything is on the device."));
+}
+
+void tst_MainWindow::fullDisk()
+{
+    auto *const bar = child<MessageBar>(m_window.get(), "m_messageBar");
+    auto *const saved = child<QLabel>(m_window.get(), "m_savedLab");
+    QCOMPARE(saved->text(), QStringLiteral("Saved"));
+    m_shell->store().setPageLimit(m_shell->store().pageCount());
+    for (int index = 0; index < 28 && m_shell->store().isSaved(); ++index) {
+        m_shell->store().addMacro(0, QStringLiteral("M%1").arg(index), {});
+        m_shell->store().flush();
+    }
+    QVERIFY(!m_shell->store().isSaved());
+    QVERIFY(bar->isVisible());
+    QCOMPARE(saved->text(), QStringLiteral("NOT SAVED"));
+    assign(7, "btn_48");
+    QCOMPARE(key(7)->text(), QStringLiteral("B"));
+    m_shell->store().setPageLimit(0);
+    QVERIFY(m_shell->store().flush());
+    QCOMPARE(saved->text(), QStringLiteral("Saved"));
 }
 
 void tst_MainWindow::secondShell()

@@ -35,6 +35,9 @@ DeviceView::DeviceView(ShellContext &context, QWidget *parent) : QWidget(parent)
     connect(&store, &ProfileStore::profileChanged, this, &DeviceView::refresh);
     connect(&store, &ProfileStore::macrosChanged, this, &DeviceView::refresh);
     connect(&store, &ProfileStore::pressoChanged, this, &DeviceView::refresh);
+    // after the environment has taken over another language
+    connect(&store, &ProfileStore::settingChanged, this, &DeviceView::refresh,
+            Qt::QueuedConnection);
     refresh();
     chooseKey(0);
 }

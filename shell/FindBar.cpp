@@ -39,6 +39,7 @@ FindBar::FindBar(ShellContext &context, QWidget *parent)
     const ProfileStore &store = context.store();
     connect(&store, &ProfileStore::profileChanged, this, &FindBar::forget);
     connect(&store, &ProfileStore::profileListChanged, this, &FindBar::forget);
+    connect(&store, &ProfileStore::settingChanged, this, &FindBar::forget, Qt::QueuedConnection);
 }
 
 FindBar::~FindBar()

@@ -10,8 +10,7 @@ KeyCombo::KeyCombo(QWidget *parent) : QComboBox(parent)
     setInsertPolicy(QComboBox::NoInsert);
     setMaxVisibleItems(16);
     setAccessibleName(tr("Key"));
-    for (const ushort code : MacroEventModel::codes())
-        addItem(MacroEventModel::keyName(code), code);
+    fill();
     completer()->setFilterMode(Qt::MatchContains);
     completer()->setCompletionMode(QCompleter::PopupCompletion);
 }
@@ -20,4 +19,13 @@ int KeyCombo::code() const
 {
     const int row = findText(currentText().trimmed(), Qt::MatchFixedString);
     return row < 0 ? 0 : itemData(row).toInt();
+}
+
+void KeyCombo::fill()
+{
+    const QVariant chosen = currentData();
+    clear();
+    for (const ushort code : MacroEventModel::codes())
+        addItem(MacroEventModel::keyName(code), code);
+    setCurrentIndex(qMax(0, findData(chosen)));
 }

@@ -11,6 +11,9 @@ class KeyCombo : public QComboBox
 public:
     explicit KeyCombo(QWidget *parent = nullptr);
 
+    /// Names the keys anew, in the environment's language; the chosen one stays.
+    void fill();
+
     /// Device code of what stands in the field; 0 for a text that is no key.
     int code() const;
 };

@@ -52,6 +52,9 @@ MacroPage::MacroPage(ShellContext &context, QWidget *parent)
         refreshUses();
     });
     connect(&context.store(), &ProfileStore::profileListChanged, this, &MacroPage::refreshUses);
+    // after the environment has taken over another language
+    connect(&context.store(), &ProfileStore::settingChanged, this, &MacroPage::renameKeys,
+            Qt::QueuedConnection);
     connect(&context, &ShellContext::newMacroRequested, this, &MacroPage::beginForKey);
     refresh();
 }
@@ -319,6 +322,13 @@ void MacroPage::refreshUses()
     }
 }
 
+/// Gives the keys the names they have in the environment's language.
+void MacroPage::renameKeys()
+{
+    m_newKey->fill();
+    m_eventTable->viewport()->update();
+}
+
 void MacroPage::showState()
 {
     const bool hasMacro = !m_current.isEmpty();
@@ -547,7 +557,7 @@ void MacroPage::deleteEvents()
     m_model->removeEvents(rows);
 }
 
-void MacroPage::moveEvent(int by)
+void MacroPage::moveRow(int by)
 {
     const int row = currentRow();
     if (m_model->moveEvent(row, by))

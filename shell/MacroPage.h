@@ -60,6 +60,7 @@ private:
     void refreshList();
     void refreshEvents();
     void refreshUses();
+    void renameKeys();
     void showState();
     void say(const QString &text);
     void onCurrentChanged(const QTreeWidgetItem *item);
@@ -73,9 +74,9 @@ private:
     void goBack();
     void addEvent();
     void deleteEvents();
-    void moveUp() { moveEvent(-1); }
-    void moveDown() { moveEvent(1); }
-    void moveEvent(int by);
+    void moveUp() { moveRow(-1); }
+    void moveDown() { moveRow(1); }
+    void moveRow(int by);
     void setDelays();
     void storeEvents(const QString &what);
     QString make(const QString &wanted, const vantrix_macro_record &record);

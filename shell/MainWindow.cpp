@@ -3,6 +3,7 @@
 #include "shell/Language.h"
 #include "shell/MappingView.h"
 #include "shell/MessageBar.h"
+#include "shell/ProfileCheck.h"
 #include "shell/ProfileList.h"
 #include "shell/SettingsDlg.h"
 #include "shell/ShellStyle.h"
@@ -400,6 +401,10 @@ void MainWindow::updateState()
                                         : tr("NOT SAVED"));
     if (QAbstractButton *const tab = m_tabs->button(int(ShellPage::Changes)))
         tab->setText(count ? tr("CHANGES %1").arg(count) : tr("CHANGES"));
+    const ProfileCheck check(m_context.store(), owner);
+    const int findings = int(check.check(m_context.profile()).size());
+    if (QAbstractButton *const tab = m_tabs->button(int(ShellPage::Check)))
+        tab->setText(findings ? tr("CHECK %1").arg(findings) : tr("CHECK"));
     setWindowTitle(
         tr("%1%2 - VANTRIX").arg(name, store.isReadOnly() ? tr(" (read only)") : QString()));
 }
@@ -418,6 +423,7 @@ void MainWindow::onSettingChanged(const QString &name)
     } else if (name == HostLocations::hotKeysFolderKey()) {
         m_mapping->rebuild();
     }
+    updateState(); // an application may have been found
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

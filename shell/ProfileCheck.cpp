@@ -126,13 +126,14 @@ std::vector<KeyPlace> ProfileCheck::readSwitches(int profile) const
 {
     std::vector<KeyPlace> places;
     for (int i = 0; i < KeyCount; ++i) {
+        const vantrix_key_mapping mapping = m_store.state().mapping(m_owner, profile, i);
+        const int target = SimulatedDevice::profileOfCode(effectiveCode(mapping), profile);
+        if (target < 0 || target == profile)
+            continue;
         const KeyContent key = m_store.state().key(m_owner, profile, i);
         const int type = KeyText::inputType(i, key);
         // the two codes that stop at the ends are classed with the keyboard
-        if (type != InputType::Profile && type != InputType::Keyboard)
-            continue;
-        const int target = SimulatedDevice::profileOfCode(effectiveCode(key.mapping), profile);
-        if (!key.extended && target >= 0 && target != profile)
+        if ((type == InputType::Profile || type == InputType::Keyboard) && !key.extended)
             places.push_back({target, i});
     }
     return places;

@@ -5,6 +5,7 @@
 #include "shell/MacroEventModel.h"
 #include "support/Gestures.h"
 #include "support/TestMain.h"
+#include "vocabulary/KeyLegends.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -58,6 +59,7 @@ private slots:
     void beginForAKeyAndBack();
     void beginForAKeyAndBackWithNothing();
     void foreignBytesStay();
+    void keysFollowTheLanguage();
     void narrowAndWide();
 
 private:
@@ -610,6 +612,20 @@ void tst_MacroPage::foreignBytesStay()
     record.count = 3;
     record.events[3] = vantrix_macro_event();
     QCOMPARE(*store().state().macro(0, QStringLiteral("Save")), record);
+}
+
+void tst_MacroPage::keysFollowTheLanguage()
+{
+    add("Save", {{0x1C, 1, 0}}); // Y in English, Z in German
+    auto *const keys = child<KeyCombo>("m_newKey");
+    keys->setCurrentIndex(keys->findData(0x1C));
+    QCOMPARE(keys->currentText(), QStringLiteral("Y"));
+    m_shell->services.environment().setLanguage(LanguageIndex().at(QStringLiteral("German")));
+    store().setSetting(QStringLiteral("language"), QStringLiteral("German"));
+    store().flush();
+    QTRY_COMPARE(keys->currentText(), QStringLiteral("Z"));
+    QCOMPARE(keys->code(), 0x1C);
+    QCOMPARE(table()->model()->index(0, 1).data().toString(), QStringLiteral("Z"));
 }
 
 void tst_MacroPage::narrowAndWide()

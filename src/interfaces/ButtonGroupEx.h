@@ -3,12 +3,16 @@
 #include "interfaces/VantrixExport.h"
 
 #include <QButtonGroup>
+#include <QPointer>
 
 /// A group of checkable buttons of which at most one is checked, and a click on the checked one
 /// unchecks it. Buttons stay owned by their parents.
 ///
 /// Mouse, Space, `click()` and `animateClick()` count as clicks; setting the check state from code
 /// does not.
+///
+/// By keyboard, Tab goes to the group's first visible button and then on behind the group; arrows
+/// go from one button to the nearest one in their direction, without checking it.
 class VANTRIX_EXPORT ButtonGroupEx : public QButtonGroup
 {
     Q_OBJECT
@@ -24,4 +28,13 @@ public:
 signals:
     /// On each click, after the check state has changed.
     void sigButtonClicked(QAbstractButton *button);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void followFocus(QWidget *now);
+    QAbstractButton *nearest(int arrowKey) const;
+
+    QPointer<QAbstractButton> m_focused;
 };

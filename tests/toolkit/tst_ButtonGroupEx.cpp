@@ -2,7 +2,9 @@
 #include "support/Gestures.h"
 #include "support/TestMain.h"
 
+#include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 class tst_ButtonGroupEx : public QObject
@@ -20,6 +22,12 @@ private slots:
     void noneChecked();
     void automaticIdsAreNegative();
     void stateHasChangedWhenTheClickIsTold();
+    void arrowsGoToTheNearest();
+    void arrowsPassWhatCannotBeUsed();
+    void arrowsScroll();
+    void tabPassesTheGroup();
+    void tabReachesTheGroupAgain();
+    void focusedButtonMayDie();
 
 private:
     QStringList states() const;
@@ -142,6 +150,125 @@ void tst_ButtonGroupEx::stateHasChangedWhenTheClickIsTold()
     clickOn(m_buttons.at(1));
     clickOn(m_buttons.at(1));
     QCOMPARE(seen, QStringList({"100", "010", "000"}));
+}
+
+namespace {
+
+/// Nine buttons in a square between two fields.
+struct Square : QWidget
+{
+    Square()
+    {
+        auto *const grid = new QGridLayout(this);
+        grid->addWidget(before, 0, 0, 1, 3);
+        for (int i = 0; i < 9; ++i) {
+            buttons << new QPushButton(QString::number(i), this);
+            buttons.last()->setCheckable(true);
+            grid->addWidget(buttons.last(), 1 + i / 3, i % 3);
+            group->addButton(buttons.last(), i);
+        }
+        grid->addWidget(after, 4, 0, 1, 3);
+        setTabOrder(buttons.last(), after);
+        resize(300, 200);
+        show();
+        activateWindow();
+        QTRY_VERIFY(isActiveWindow());
+    }
+
+    int press(Qt::Key key)
+    {
+        pressKey(focusWidget(), key);
+        return buttons.indexOf(qobject_cast<QPushButton *>(focusWidget()));
+    }
+
+    QLineEdit *before = new QLineEdit(this);
+    QLineEdit *after = new QLineEdit(this);
+    ButtonGroupEx *group = new ButtonGroupEx(this);
+    QList<QPushButton *> buttons;
+};
+
+} // namespace
+
+void tst_ButtonGroupEx::arrowsGoToTheNearest()
+{
+    Square square;
+    QSignalSpy clicked(square.group, &ButtonGroupEx::sigButtonClicked);
+    square.buttons.at(0)->setFocus();
+    QCOMPARE(square.press(Qt::Key_Right), 1);
+    QCOMPARE(square.press(Qt::Key_Down), 4);
+    QCOMPARE(square.press(Qt::Key_Down), 7);
+    QCOMPARE(square.press(Qt::Key_Left), 6);
+    QCOMPARE(square.press(Qt::Key_Left), 6);
+    QCOMPARE(square.press(Qt::Key_Up), 3);
+    QCOMPARE(clicked.count(), 0);
+    QVERIFY(!square.group->checkedButton());
+    square.press(Qt::Key_Space);
+    QCOMPARE(square.group->checkedId(), 3);
+}
+
+void tst_ButtonGroupEx::arrowsPassWhatCannotBeUsed()
+{
+    Square square;
+    square.buttons.at(1)->hide();
+    square.buttons.at(4)->setEnabled(false);
+    square.buttons.at(0)->setFocus();
+    QCOMPARE(square.press(Qt::Key_Right), 2);
+    square.buttons.at(3)->setFocus();
+    QCOMPARE(square.press(Qt::Key_Right), 5);
+}
+
+void tst_ButtonGroupEx::arrowsScroll()
+{
+    QScrollArea area;
+    auto *const list = new QWidget;
+    auto *const rows = new QVBoxLayout(list);
+    ButtonGroupEx group;
+    QList<QPushButton *> buttons;
+    for (int i = 0; i < 40; ++i) {
+        buttons << new QPushButton(list);
+        buttons.last()->setCheckable(true);
+        rows->addWidget(buttons.last());
+        group.addButton(buttons.last(), i);
+    }
+    area.setWidget(list);
+    area.resize(150, 120);
+    area.show();
+    area.activateWindow();
+    QTRY_VERIFY(area.isActiveWindow());
+    buttons.first()->setFocus();
+    for (int i = 1; i < 40; ++i) {
+        pressKey(buttons.at(i - 1), Qt::Key_Down);
+        QVERIFY(buttons.at(i)->hasFocus());
+        QVERIFY(!buttons.at(i)->visibleRegion().isEmpty());
+    }
+}
+
+void tst_ButtonGroupEx::tabPassesTheGroup()
+{
+    Square square;
+    square.before->setFocus();
+    QCOMPARE(square.press(Qt::Key_Tab), 0);
+    square.press(Qt::Key_Right);
+    square.press(Qt::Key_Tab);
+    QVERIFY(square.after->hasFocus());
+}
+
+void tst_ButtonGroupEx::tabReachesTheGroupAgain()
+{
+    Square square;
+    square.buttons.at(0)->setFocus();
+    square.before->setFocus();
+    square.buttons.at(0)->hide();
+    QCOMPARE(square.press(Qt::Key_Tab), 1);
+}
+
+void tst_ButtonGroupEx::focusedButtonMayDie()
+{
+    Square square;
+    square.buttons.at(4)->setFocus();
+    delete square.buttons.takeAt(4);
+    square.buttons.at(0)->setFocus();
+    QCOMPARE(square.press(Qt::Key_Down), 3);
 }
 
 VANTRIX_TEST_MAIN(tst_ButtonGroupEx)

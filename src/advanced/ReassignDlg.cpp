@@ -296,6 +296,19 @@ void ReassignDlg::slotMainWindowMoved()
         setGeometry(window->geometry());
 }
 
+/// Pages add to their lists at any time, and what is new is the last that Tab would reach.
+bool ReassignDlg::focusNextPrevChild(bool next)
+{
+    QWidget *last = previousInFocusChain();
+    while (last->focusPolicy() == Qt::NoFocus)
+        last = last->previousInFocusChain();
+    if (last != m_ui->m_apply) {
+        setTabOrder(last, m_ui->m_cancel);
+        setTabOrder(m_ui->m_cancel, m_ui->m_apply);
+    }
+    return QDialog::focusNextPrevChild(next);
+}
+
 void ReassignDlg::keyPressEvent(QKeyEvent *event)
 {
     // What has the focus has had its turn; a dialog would press a button of its own choice.

@@ -55,6 +55,7 @@ signals:
     void sigSearch(QString strText);
 
 protected:
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 

@@ -77,8 +77,7 @@ MacroWid::MacroWid(QWidget *parent) : QWidget(parent), m_ui(std::make_unique<Ui:
     m_ui->m_macroList->setAccessibleName(tr(inputTypeName(InputType::Macro)));
     keepTextNarrow(m_ui->m_createBtn, 8);
     connect(m_ui->m_createBtn, &QPushButton::clicked, this, &MacroWid::sigCreateMacro);
-    connect(m_ui->m_macroList, &QListWidget::itemSelectionChanged, this,
-            &MacroWid::slotMacroChanged);
+    connect(m_ui->m_macroList, &MacroList::sigSelectionSettled, this, &MacroWid::slotMacroChanged);
 }
 
 MacroWid::~MacroWid() = default;
@@ -174,11 +173,12 @@ void MacroWid::slotMacroChanged()
     if (!current)
         return;
     const QList<QListWidgetItem *> selected = m_ui->m_macroList->selectedItems();
-    // Each of these runs this slot again, and the run that sees one item left emits.
-    for (QListWidgetItem *const other : selected) {
-        if (other != current)
-            other->setSelected(false);
+    {
+        const QSignalBlocker blocker(m_ui->m_macroList);
+        for (QListWidgetItem *const other : selected) {
+            if (other != current)
+                other->setSelected(false);
+        }
     }
-    if (selected.size() < 2)
-        emit sigMacroAssigned(!selected.isEmpty(), current->number(), current->name(), -1);
+    emit sigMacroAssigned(current->isSelected(), current->number(), current->name(), -1);
 }

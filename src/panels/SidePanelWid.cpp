@@ -6,6 +6,8 @@
 
 #include "ui_SidePanelUi.h"
 
+#include <QPointer>
+
 namespace {
 
 int inputOfPreset(int keyboardType)
@@ -40,6 +42,9 @@ void SidePanelWid::slotPanelBtnClicked(int keyboardType)
 {
     // A second click has unchecked the entry; it applies the preset anew.
     m_presets->setButtonChecked(keyboardType, true);
+    // The preset may warn of something, and the page may be gone when the user has read it.
+    const QPointer<SidePanelWid> alive(this);
     emit sigPanelChanged(inputOfPreset(keyboardType), keyboardType);
-    hide();
+    if (alive)
+        hide();
 }

@@ -330,6 +330,10 @@ void Keyboard::updateGrab()
     if (on == isHeld)
         return;
     m_grabbed = on;
+    // What another page's keyboard has taken over is not this one's to let go of.
+    auto *const grabber = qobject_cast<Keyboard *>(keyboardGrabber());
+    if (!on && grabber && grabber != this)
+        return;
     if (on)
         grabKeyboard();
     else

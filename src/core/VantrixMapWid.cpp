@@ -432,9 +432,9 @@ void VantrixMapWid::updateSidePanelVisible(int mode)
 /// page that shows.
 void VantrixMapWid::updateCapture()
 {
+    m_data->m_mapWid->setKeySelected(isValidKey(m_data->m_assignWid->currentKey()));
     m_data->m_mapWid->setCaptureEnabled(m_data->isShown && m_data->simple->isChecked() &&
                                         mode() == Mode::Simple);
-    m_data->m_mapWid->setKeySelected(isValidKey(m_data->m_assignWid->currentKey()));
 }
 
 void VantrixMapWid::slotModeChanged(int iMode)
@@ -472,8 +472,13 @@ void VantrixMapWid::slotPressoEnableChanged(int enable)
 
 void VantrixMapWid::slotApply()
 {
+    // The shell may replace the page in its answer.
+    const QPointer<VantrixMapWid> alive(this);
     emit sigUpdateKeyMapping();
-    emit sigUpdateMacroAssign();
+    if (alive)
+        emit sigUpdateMacroAssign();
+    if (!alive)
+        return;
     m_data->m_assignWid->dropSelection();
     m_data->menu->hide();
     updateCapture();

@@ -3,6 +3,7 @@
 #include "advanced/AssignMenuWid.h"
 #include "core/BoardFixture.h"
 #include "core/LegendWid.h"
+#include "core/PageFixture.h"
 #include "panels/InputWid.h"
 #include "panels/Keyboard.h"
 #include "panels/MapWid.h"
@@ -14,19 +15,16 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
-#include <QThreadPool>
 #include <QVBoxLayout>
 
-#include <memory>
-
-class tst_VantrixMapWid : public QObject
+class tst_VantrixMapWid : public QObject, PageFixture
 {
     Q_OBJECT
 
 private slots:
     void initTestCase() { registerRecordTypes(); }
-    void init();
-    void cleanup();
+    void init() { open(); }
+    void cleanup() { close(); }
 
     void form();
     void legend();
@@ -67,65 +65,7 @@ private slots:
     void hiding();
     void relays();
     void pageMayDieInAWarning();
-
-private:
-    template <typename T>
-    T *find(const char *name) const
-    {
-        return child<T>(m_page, QLatin1String(name));
-    }
-    QPushButton *key(int index) const
-    {
-        return child<QPushButton>(m_page, QStringLiteral("key_%1").arg(index));
-    }
-    FakeProfileCfg::Profile &profile(int number = 2) { return m_store->profile(5, number); }
-    bool isCapturing() const { return m_hotKeys->capturing != nullptr; }
-    void click(const char *name) const { find<QPushButton>(name)->click(); }
-
-    std::unique_ptr<FakeEnvironment> m_environment;
-    std::unique_ptr<FakeSystemHotKey> m_hotKeys;
-    std::unique_ptr<FakeProfileCfg> m_store;
-    std::unique_ptr<FakeParse> m_parse;
-    std::unique_ptr<QWidget> m_window;
-    VantrixMapWid *m_page = nullptr;
-    QStringList m_asked;
-    int m_answer = 0;
 };
-
-void tst_VantrixMapWid::init()
-{
-    m_environment = std::make_unique<FakeEnvironment>();
-    m_hotKeys = std::make_unique<FakeSystemHotKey>();
-    m_store = std::make_unique<FakeProfileCfg>();
-    m_parse = std::make_unique<FakeParse>();
-    m_window = std::make_unique<QWidget>();
-    m_window->resize(784, 808);
-    m_environment->mainWidget = m_window.get();
-    m_asked.clear();
-    m_answer = 0;
-    Modal::setAnswerer([this](const ModalPrompt &prompt) {
-        m_asked << prompt.title + QLatin1Char('|') + prompt.text;
-        return QVariant(m_answer);
-    });
-    m_page = new VantrixMapWid(5, m_window.get());
-    m_page->resize(784, 808);
-    m_window->show();
-    m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    m_page->updateUi(2);
-    m_store->clearLog();
-}
-
-void tst_VantrixMapWid::cleanup()
-{
-    m_window.reset();
-    QThreadPool::globalInstance()->waitForDone();
-    Modal::setAnswerer(nullptr);
-    m_parse.reset();
-    m_store.reset();
-    m_hotKeys.reset();
-    m_environment.reset();
-}
 
 void tst_VantrixMapWid::form()
 {
@@ -721,7 +661,6 @@ void tst_VantrixMapWid::pageMayDieInAWarning()
     profile().apps[8] = {1, 6, {}};
     Modal::setAnswerer([this](const ModalPrompt &) {
         delete m_page;
-        m_page = nullptr;
         return QVariant(0);
     });
     m_page->updateUi(2);

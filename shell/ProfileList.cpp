@@ -19,7 +19,7 @@ namespace {
 
 enum Role { ProfileRole = Qt::UserRole, DirtyRole, OnDeviceRole, MarkedRole };
 
-constexpr int RowHeight = 32;
+constexpr int RowHeight = 28;
 constexpr int NumberRowHeight = 26;
 constexpr int NumberWidth = 30;
 constexpr int FullWidth = 240;
@@ -121,7 +121,7 @@ private:
         if (!index.data(OnDeviceRole).toBool())
             return;
         QFont small = option.font;
-        small.setPointSizeF(small.pointSizeF() * 0.75);
+        small.setPixelSize(QFontInfo(option.font).pixelSize() * 3 / 4);
         const QString text = QCoreApplication::translate("ProfileList", "DEVICE");
         const int width = QFontMetrics(small).horizontalAdvance(text) + 10;
         const QRect badge(rest.right() - width, rest.center().y() - 8, width, 17);

@@ -4,7 +4,7 @@
 #include "Ratio.h"
 #include "application/ApplicationAdvWid.h"
 #include "application/FuncLevWid.h"
-#include "application/HotKey.h"
+#include "interfaces/ButtonGroupEx.h"
 #include "tests/application/CatalogFolder.h"
 
 #include <QApplication>
@@ -31,7 +31,8 @@ void paintNow(QWidget *window)
 double readAll(ApplicationAdvWid &page)
 {
     double longest = 0;
-    while (page.findChildren<HotKey *>().size() < Files * Groups * Keys) {
+    const auto *const leaves = page.findChild<ButtonGroupEx *>();
+    while (leaves->buttons().size() < Files * Groups * Keys) {
         QElapsedTimer turn;
         turn.start();
         QCoreApplication::processEvents();

@@ -19,7 +19,7 @@ class ApplicationAdvUi;
 /// The hot-key browser: the catalog as a tree of folding titles (application, folder, file, group)
 /// with a button for each hot key. It reads the catalog once, in the background, from its creation
 /// on, and grows in portions, so that it can be used meanwhile; nothing ever leaves it. A folder
-/// whose name is not all in upper case stays empty. Beyond 100,000 hot keys or 20,000 titles the
+/// whose name is not all in upper case stays empty. Beyond 100,000 hot keys or 12,000 titles the
 /// catalog is cut off.
 ///
 /// At most one hot key of the whole tree is checked, and it stays checked until another one is

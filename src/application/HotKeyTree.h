@@ -10,7 +10,7 @@ struct HotKeyTree
 {
     /// A catalog beyond these is cut off: the page would no longer find room in memory.
     static constexpr int MostKeys = 100'000;
-    static constexpr int MostTitles = 20'000;
+    static constexpr int MostTitles = 12'000;
 
     ButtonGroupEx *group = nullptr; ///< not owned
     Portions portions;

@@ -706,7 +706,7 @@ void tst_ApplicationAdvWid::mostKeys()
     wid.addKeys(map, 100);
     QVERIFY(map.empty());
     QCOMPARE(wid.findChildren<HotKey *>().size(), 3);
-    tree.titles = 20'000 - 1;
+    tree.titles = 12'000 - 1;
     QVERIFY(tree.addTitle());
     QVERIFY(!tree.addTitle());
 }

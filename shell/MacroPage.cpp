@@ -98,7 +98,8 @@ QWidget *MacroPage::makeList()
     auto *const buttons = new QWidget(box);
     auto *const row = new FlowLayout(buttons);
     row->addWidget(button(buttons, "m_newBtn", tr("NEW"), &MacroPage::addMacro));
-    m_duplicateBtn = button(buttons, "m_duplicateBtn", tr("DUPLICATE"), &MacroPage::duplicateMacro);
+    m_duplicateBtn = button(buttons, "m_duplicateBtn", tr("COPY"), &MacroPage::duplicateMacro);
+    m_duplicateBtn->setToolTip(tr("Make another macro with the same events"));
     m_renameBtn = button(buttons, "m_renameBtn", tr("RENAME"), &MacroPage::renameMacro);
     m_deleteBtn = button(buttons, "m_deleteBtn", tr("DELETE"), &MacroPage::deleteMacro);
     for (QPushButton *const made : {m_duplicateBtn, m_renameBtn, m_deleteBtn})
@@ -222,7 +223,10 @@ QWidget *MacroPage::makeEventRow(QWidget *parent)
 {
     auto *const box = new QWidget(parent);
     m_addRow = box;
-    auto *const row = new FlowLayout(box);
+    auto *const rows = new QVBoxLayout(box);
+    rows->setContentsMargins(0, 0, 0, 0);
+    auto *const row = new QHBoxLayout;
+    rows->addLayout(row);
     m_newEvent = new QComboBox(box);
     m_newEvent->setObjectName(QStringLiteral("m_newEvent"));
     m_newEvent->setAccessibleName(tr("Event to add"));
@@ -232,9 +236,9 @@ QWidget *MacroPage::makeEventRow(QWidget *parent)
     m_newKey = new KeyCombo(box);
     m_newKey->setObjectName(QStringLiteral("m_newKey"));
     m_newKey->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_newKey->setMinimumContentsLength(9);
+    m_newKey->setMinimumContentsLength(5);
     row->addWidget(m_newEvent);
-    row->addWidget(m_newKey);
+    row->addWidget(m_newKey, 1);
     row->addWidget(button(box, "m_addEventBtn", tr("ADD"), &MacroPage::addEvent));
     m_upBtn = button(box, "m_upBtn", QStringLiteral("\u25B2"), &MacroPage::moveUp);
     m_downBtn = button(box, "m_downBtn", QStringLiteral("\u25BC"), &MacroPage::moveDown);
@@ -243,8 +247,11 @@ QWidget *MacroPage::makeEventRow(QWidget *parent)
     m_downBtn->setToolTip(tr("Move the event down (Alt+Down)"));
     m_downBtn->setAccessibleName(m_downBtn->toolTip());
     m_deleteEventBtn = button(box, "m_deleteEventBtn", tr("DELETE"), &MacroPage::deleteEvents);
+    auto *const chosen = new QHBoxLayout;
+    rows->addLayout(chosen);
+    chosen->addWidget(new QLabel(tr("Chosen events:"), box), 1);
     for (QPushButton *const made : {m_upBtn, m_downBtn, m_deleteEventBtn})
-        row->addWidget(made);
+        chosen->addWidget(made);
     return box;
 }
 

@@ -20,7 +20,7 @@ namespace {
 /// shadow below the pad are shown.
 constexpr QSizeF WholePicture(425, 740);
 constexpr qreal Seam = 185;
-constexpr qreal Shadow = 719;
+constexpr qreal Shadow = 715;
 constexpr QSizeF PictureSize(WholePicture.width(), Shadow - Seam);
 constexpr qreal Pitch = 71;
 constexpr qreal KeySize = 68;

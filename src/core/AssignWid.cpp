@@ -12,6 +12,7 @@
 #include <QBitmap>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QPainter>
 #include <QPointer>
 
 #include <algorithm>
@@ -25,11 +26,26 @@ constexpr int WideKey = 23;
 // Measures of the pad's picture, which is drawn on a ground of 150 by 260.
 constexpr int PictureWidth = 150;
 constexpr int PictureHeight = 260;
-constexpr int UpperPart = 65; ///< what simple mode cuts away
+constexpr int UpperPart = 65;           ///< what simple mode cuts away
+constexpr qreal GroundPart = 25. / 425; ///< height of the ground below the pad, in picture widths
+
+constexpr int RegionTrim = 15; ///< pixels that the pad's region loses at the bottom
 
 IVantrixProfileCfg *store()
 {
     return IVantrixProfileCfg::Instance();
+}
+
+/// Leaves no more of the ground below the pad than the region loses, so that the region ends with
+/// the pad.
+void cutGround(QPixmap *picture, const QSize &size)
+{
+    const int excess = qRound(size.width() * GroundPart) - RegionTrim;
+    if (excess <= 0)
+        return;
+    QPainter painter(picture);
+    painter.setCompositionMode(QPainter::CompositionMode_Clear);
+    painter.fillRect(0, size.height() - excess, size.width(), excess, Qt::transparent);
 }
 
 /// Holds back the colours of all keys while it lives.
@@ -142,6 +158,7 @@ void AssignWid::layoutForMode(int mode)
     QPixmap picture =
         source.scaled(fitted * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     picture.setDevicePixelRatio(ratio);
+    cutGround(&picture, fitted);
     m_picture->setPixmap(picture);
     const int x = std::max(0, (width() - w) / 2);
     m_picture->setGeometry(x, 0, w, h);
@@ -194,7 +211,7 @@ QRegion AssignWid::keyBoardRegion(const QWidget *mainWid) const
     };
     const auto tallest = std::max_element(rects.begin(), rects.end(), shorter);
     rects.front().adjust(6, 0, -5, 0);
-    tallest->adjust(0, 0, -1, -15);
+    tallest->adjust(0, 0, -1, -RegionTrim);
     rects.erase(tallest + 1, rects.end());
     QRegion region;
     region.setRects(rects.data(), int(rects.size()));

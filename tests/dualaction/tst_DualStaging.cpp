@@ -555,8 +555,9 @@ void tst_DualStaging::hole_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::newRow("784 by 808") << QSize(784, 808);
-    QTest::newRow("900 by 800") << QSize(900, 800);
     QTest::newRow("1024 by 768") << QSize(1024, 768);
+    QTest::newRow("1280 by 900") << QSize(1280, 900);
+    QTest::newRow("1920 by 1080") << QSize(1920, 1080);
 }
 
 void tst_DualStaging::hole()
@@ -573,7 +574,7 @@ void tst_DualStaging::holeFollowsTheWindow()
 {
     clickAt(key(1));
     open(1, 1);
-    for (const QSize size : {QSize(1024, 768), QSize(784, 808), QSize(900, 800)}) {
+    for (const QSize size : {QSize(1280, 900), QSize(784, 808), QSize(900, 800)}) {
         resizeWindow(size);
         QTRY_VERIFY(holeError() <= 2);
     }

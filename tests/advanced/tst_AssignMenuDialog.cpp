@@ -22,6 +22,7 @@ private slots:
     void applyWithoutAPickLeavesALabelledKey();
     void applyWithoutAPickSendsARecordAgain();
     void aMacroPickIsTheKeysFunctionFromThenOn();
+    void anAbandonedMacroIsNotChecked();
     void outlivesTheMainWidget();
     void dialogDiesWithTheMenu();
     void menuDestroyedWhileTheDialogIsOpen();
@@ -230,6 +231,41 @@ void tst_AssignMenuDialog::aMacroPickIsTheKeysFunctionFromThenOn()
     });
     applyAfter("m_reassignKey", [](QObject *) {});
     QCOMPARE(record.count(), 0);
+}
+
+void tst_AssignMenuDialog::anAbandonedMacroIsNotChecked()
+{
+    const auto macroButton = [](const QObject *opened, const QString &name) {
+        for (QPushButton *button :
+             child<MacroAdvWid>(opened, "m_macro")->findChildren<QPushButton *>()) {
+            if (button->text() == name)
+                return button;
+        }
+        return static_cast<QPushButton *>(nullptr);
+    };
+    vantrix_key_mapping labelled = clearedKey();
+    labelled.type = 1;
+    m_menu->addKeyAssignMacro("Jump");
+    m_menu->addKeyAssignMacro("Run");
+    select(0, labelled);
+    m_menu->slotMacroSelected("M1");
+    Modal::setAnswerer([&](const ModalPrompt &prompt) {
+        macroButton(prompt.dialog, "Run")->click();
+        child<QPushButton>(prompt.dialog, "m_cancel")->click();
+        return QVariant(0);
+    });
+    button("m_reassignKey")->click();
+    const auto onlyChecked = [&](const char *name) {
+        return [=](QObject *opened) {
+            for (const char *each : {"Jump", "Run"})
+                QCOMPARE(macroButton(opened, each)->isChecked(), QString(each) == name);
+        };
+    };
+    applyAfter("m_reassignKey", onlyChecked("Jump"));
+    applyAfter("m_controllerMode", onlyChecked("Jump"));
+    select(1, labelled);
+    m_menu->slotApplicationAdvSelected("Copy");
+    applyAfter("m_reassignKey", onlyChecked("none"));
 }
 
 void tst_AssignMenuDialog::outlivesTheMainWidget()

@@ -68,6 +68,7 @@ void tst_ReassignDlgWindow::enterInTheSearchDoesNotApply()
     open(0, 0, plainKey(7), [this] {
         m_dialog->show();
         auto *const search = child<QLineEdit>(m_dialog.get(), "m_search");
+        button("m_apply")->setDefault(true);
         search->setFocus();
         typeInto(search, "a");
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {

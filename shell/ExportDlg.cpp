@@ -24,6 +24,7 @@ ExportDlg::ExportDlg(ShellContext &context, QWidget *parent)
     resize(440, 520);
     m_list->setObjectName(QStringLiteral("m_exportList"));
     m_list->setAccessibleName(tr("Profiles to export"));
+    m_list->setSpacing(2);
     m_macros->setObjectName(QStringLiteral("m_exportMacros"));
     m_macros->setWordWrap(true);
     m_macros->setStyleSheet(QStringLiteral("color:%1;").arg(ShellStyle::dim().name()));

@@ -210,7 +210,6 @@ QWidget *MacroPage::makeRecordRow(QWidget *parent)
     m_fixedDelay->setRange(0, MacroRecorder::MaxDelay);
     m_fixedDelay->setValue(StandardDelay);
     m_fixedDelay->setSuffix(tr(" ms"));
-    m_fixedDelay->setButtonSymbols(QAbstractSpinBox::NoButtons);
     m_setDelaysBtn = button(box, "m_setDelaysBtn", tr("SET ALL"), &MacroPage::setDelays);
     m_setDelaysBtn->setToolTip(tr("Give all events of the macro this delay"));
     for (QWidget *const made :

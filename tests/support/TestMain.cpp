@@ -1,5 +1,7 @@
 #include "support/TestMain.h"
 
+#include "support/QtUnderAsan.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QLocale>
@@ -60,10 +62,10 @@ int runTest(int argc, char **argv, const std::function<QObject *()> &makeTest)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QLocale::setDefault(QLocale::c());
     QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication app(argc, argv);
+    const std::unique_ptr<QApplication> app = makeApplication(argc, argv);
     const std::unique_ptr<QObject> test(makeTest());
 
-    QStringList arguments = app.arguments();
+    QStringList arguments = app->arguments();
     if (arguments.contains(QStringLiteral("-o")))
         return QTest::qExec(test.get(), arguments);
     const QString log = home.filePath(QStringLiteral("log.txt"));

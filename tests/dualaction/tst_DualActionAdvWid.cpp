@@ -5,6 +5,7 @@
 #include "fakes/FakeServices.h"
 #include "interfaces/OstraAction.h"
 #include "interfaces/OstraMenu.h"
+#include "support/DualKey.h"
 #include "support/Gestures.h"
 #include "support/TestMain.h"
 
@@ -62,21 +63,6 @@ private:
     DualActionAdvWid *m_form = nullptr;
     std::unique_ptr<QSignalSpy> m_spy;
 };
-
-namespace {
-
-vantrix_key_mapping dualKey(int first, int second, int type, int depth)
-{
-    vantrix_key_mapping key;
-    key.type = 3;
-    key.digital.firstAction = ushort(first);
-    key.digital.secondAction = ushort(second);
-    key.digital.dualType = uchar(type);
-    key.digital.depth = uchar(depth);
-    return key;
-}
-
-} // namespace
 
 void tst_DualActionAdvWid::init()
 {

@@ -5,6 +5,7 @@
 #include "interfaces/Modal.h"
 #include "interfaces/OstraAction.h"
 #include "interfaces/OstraMenu.h"
+#include "support/DualKey.h"
 #include "support/Gestures.h"
 #include "support/TestMain.h"
 
@@ -57,17 +58,6 @@ private:
 };
 
 namespace {
-
-vantrix_key_mapping dualKey(int type, int depth)
-{
-    vantrix_key_mapping record;
-    record.type = 3;
-    record.digital.firstAction = 4;
-    record.digital.secondAction = 497;
-    record.digital.dualType = uchar(type);
-    record.digital.depth = uchar(depth);
-    return record;
-}
 
 /// The entry of a code in the menus of the first or the second action.
 OstraAction *entryOf(const QWidget *form, int action, int code)
@@ -185,14 +175,14 @@ void tst_DualRoundTrip::everyDepth()
         open();
         for (int depth = first; depth <= last; ++depth) {
             const int keyIdx = depth - first;
-            compareStored(keyIdx, dualKey(type, depth));
+            compareStored(keyIdx, dualKey(4, 497, type, depth));
             QCOMPARE(key(keyIdx)->fullText(), QString::number(depth) + QLatin1Char('%'));
             const Shown shown = shownFor(keyIdx);
             QCOMPARE(shown.type, type);
             QCOMPARE(shown.depth, depth);
             QCOMPARE(shown.first, QStringLiteral("A"));
             QCOMPARE(shown.second, QStringLiteral("RIGHT CLICK"));
-            compareStored(keyIdx, dualKey(type, depth));
+            compareStored(keyIdx, dualKey(4, 497, type, depth));
         }
     }
 }

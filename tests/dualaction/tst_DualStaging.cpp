@@ -7,6 +7,7 @@
 #include "interfaces/ButtonGroupEx.h"
 #include "interfaces/Modal.h"
 #include "panels/MouseWid.h"
+#include "support/DualKey.h"
 #include "support/Gestures.h"
 #include "support/TestMain.h"
 
@@ -121,17 +122,6 @@ const std::vector<StagedKey> Staged = {
     {"backlight", 21, 497},
 };
 // clang-format on
-
-vantrix_key_mapping dualKey(int first, int second, int type, int depth)
-{
-    vantrix_key_mapping record;
-    record.type = 3;
-    record.digital.firstAction = ushort(first);
-    record.digital.secondAction = ushort(second);
-    record.digital.dualType = uchar(type);
-    record.digital.depth = uchar(depth);
-    return record;
-}
 
 /// What is in the store once a pick was applied: the simple panel writes the normal type.
 vantrix_key_mapping appliedKey(const StagedKey &staged)

@@ -1,6 +1,11 @@
+#include "JsonSchema.h"
 #include "StoreEdits.h"
 #include "host/ProfileExchange.h"
 #include "support/TestMain.h"
+#include "vocabulary/KeyCodes.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
 
 class tst_ProfileExchange : public QObject
 {
@@ -20,12 +25,37 @@ private slots:
     void exampleOfTheDocumentation();
     void brokenFiles_data();
     void brokenFiles();
+    void extendedCodesOfTheSchema();
     void anyByteChanged();
 };
 
 namespace {
 
 constexpr int Owner = StoreEdits::Owner;
+
+/// The published schema.
+const JsonSchema &schema()
+{
+    static const JsonSchema published = [] {
+        QFile file(QStringLiteral(DOCS_DIR "/profile-files.schema.json"));
+        if (!file.open(QIODevice::ReadOnly))
+            qFatal("the schema is missing");
+        QJsonParseError error;
+        const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+        if (document.isNull())
+            qFatal("the schema is no JSON: %s", qPrintable(error.errorString()));
+        return JsonSchema(document.object());
+    }();
+    return published;
+}
+
+/// What is wrong with these files is more than a schema can say.
+bool isBeyondSchemas(const char *row)
+{
+    static const QStringList rows{QStringLiteral("profile twice"), QStringLiteral("key twice"),
+                                  QStringLiteral("macro twice"), QStringLiteral("bytes count 255")};
+    return rows.contains(QLatin1String(row));
+}
 
 std::vector<int> allProfiles()
 {
@@ -95,6 +125,7 @@ void tst_ProfileExchange::everythingComesBack()
     for (const QString &name : store.state().macroNames(Owner))
         store.removeMacro(Owner, name);
     QVERIFY(store.state().toBytes() != before);
+    QVERIFY(schema().accepts(QJsonDocument::fromJson(json).object()));
     QString error;
     const auto content = ProfileExchange::fromJson(json, QStringLiteral("file"), &error);
     QVERIFY2(content, qPrintable(error));
@@ -197,6 +228,7 @@ void tst_ProfileExchange::recordThatNeedsItsBytes()
     QString error;
     const auto content = ProfileExchange::fromJson(json, QStringLiteral("file"), &error);
     QVERIFY2(content, qPrintable(error));
+    QVERIFY(schema().accepts(QJsonDocument::fromJson(json).object()));
     QCOMPARE(content->macros.at(0).record, record);
 }
 
@@ -358,6 +390,16 @@ void tst_ProfileExchange::brokenFiles()
     QString error;
     QVERIFY(!ProfileExchange::fromJson(json.toUtf8(), QStringLiteral("my.json"), &error));
     QCOMPARE(error, message);
+    const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8());
+    const QJsonValue value =
+        document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
+    QCOMPARE(schema().accepts(value), isBeyondSchemas(QTest::currentDataTag()));
+}
+
+void tst_ProfileExchange::extendedCodesOfTheSchema()
+{
+    for (int code = 0; code <= 65535; ++code)
+        QCOMPARE(schema().accepts(QStringLiteral("extended"), code), isExtendedCode(ushort(code)));
 }
 
 void tst_ProfileExchange::anyByteChanged()

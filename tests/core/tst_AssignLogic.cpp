@@ -43,6 +43,8 @@ private slots:
     void shortcutsStopAtAnUnknownKey();
     void labelCheck();
     void labelCheckAfterAFailedRead();
+    void labelCheckSparesExtendedCodes();
+    void refusedPickIsTakenBackInAdvancedMode();
 
     void stagingBacksUp();
     void stagingAgainKeepsTheFirstBackup();
@@ -54,14 +56,17 @@ private slots:
     void backRestoresAll();
     void backAfterAFailedRead();
     void backWithNoEntries();
+    void renamedMacroComesBackRenamed();
     void newerAssignmentEndsTheEdit_data();
     void newerAssignmentEndsTheEdit();
     void stagedKeyIsAnnouncedAsStaged();
+    void anotherProfileEndsTheEdit();
 
     void keyboardPreset();
     void extendedCodesOfPreset2();
     void gamePreset();
     void appPreset();
+    void samePresetAgainStylesNothing();
     void otherPresets_data();
     void otherPresets();
 
@@ -462,6 +467,29 @@ void tst_AssignLogic::labelCheckAfterAFailedRead()
 
 // Dual actions in edit
 
+void tst_AssignLogic::labelCheckSparesExtendedCodes()
+{
+    m->profile().extended[7].code = 2816;
+    m->board.slotAssignedKey("M3", "three", {{7, 0}, {8, 0}});
+    m->store.clearLog();
+    m->board.checkLabels();
+    QCOMPARE(m->writes(), QStringList({"setKeyMapping 8", "setProfileDirty 1"}));
+    QCOMPARE(m->key(7)->text(), QString("M3"));
+}
+
+void tst_AssignLogic::refusedPickIsTakenBackInAdvancedMode()
+{
+    m->select(7);
+    m->store.canAddMacro = false;
+    QSignalSpy told(&m->board, &AssignWid::sigVantrixKeySelected);
+    m->board.slotMacroAssigned(true, "M3", "three");
+    QCOMPARE(told.count(), 0);
+    m->profile().mode = 1;
+    m->board.slotMacroAssigned(true, "M3", "three");
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(told.at(0).at(0).value<vantrix_key_mapping>(), plainKey(255));
+}
+
 void tst_AssignLogic::stagingBacksUp()
 {
     m->select(7);
@@ -627,13 +655,17 @@ void tst_AssignLogic::backWithNoEntries()
 void tst_AssignLogic::newerAssignmentEndsTheEdit_data()
 {
     QTest::addColumn<int>("slot");
-    for (int slot = 0; slot < 5; ++slot)
-        QTest::addRow("slot %d", slot) << slot;
+    QTest::addColumn<bool>("isApplyFirst");
+    for (int slot = 0; slot < 5; ++slot) {
+        QTest::addRow("slot %d, back first", slot) << slot << false;
+        QTest::addRow("slot %d, apply first", slot) << slot << true;
+    }
 }
 
 void tst_AssignLogic::newerAssignmentEndsTheEdit()
 {
     QFETCH(int, slot);
+    QFETCH(bool, isApplyFirst);
     m->select(7);
     m->board.slotDualActionAssigned(staged(5, 6, 40));
     m->board.slotDualActionApply();
@@ -656,11 +688,15 @@ void tst_AssignLogic::newerAssignmentEndsTheEdit()
         break;
     }
     const QString text = m->key(7)->text();
+    const vantrix_key_mapping record = m->key(7)->mapping();
     m->store.clearLog();
-    m->board.slotDualActionApply();
-    QCOMPARE(m->writes(), QStringList());
+    if (isApplyFirst)
+        m->board.slotDualActionApply();
     m->board.slotDualActionBack();
+    m->board.slotDualActionApply();
     QCOMPARE(m->key(7)->text(), text);
+    QCOMPARE(m->key(7)->mapping(), record);
+    QCOMPARE(m->writes(), QStringList());
 }
 
 void tst_AssignLogic::stagedKeyIsAnnouncedAsStaged()
@@ -673,7 +709,10 @@ void tst_AssignLogic::stagedKeyIsAnnouncedAsStaged()
     QSignalSpy record(&m->board, &AssignWid::sigVantrixKeySelected);
     QSignalSpy app(&m->board, &AssignWid::sigApplicationSelected);
     QSignalSpy dual(&m->board, &AssignWid::sigDualActionSelected);
+    QSignalSpy hotKey(&m->board, &AssignWid::sigApplicationAdvSelected);
+    m->profile().hotKeys[7] = {0, "CTRL+S", "Save"};
     m->key(7)->click();
+    QCOMPARE(hotKey.count(), 0);
     QCOMPARE(int(record.at(0).at(0).value<vantrix_key_mapping>().type), 3);
     QCOMPARE(app.count(), 0);
     QCOMPARE(dual.count(), 1);
@@ -682,7 +721,60 @@ void tst_AssignLogic::stagedKeyIsAnnouncedAsStaged()
     QCOMPARE(dual.at(0).at(2).value<vantrix_presso_digital>(), staged(5, 481, 40).digital);
 }
 
+void tst_AssignLogic::renamedMacroComesBackRenamed()
+{
+    m->profile().macros[7] = "three";
+    m->board.slotAssignedKey("M3", "three", {{7, 0}});
+    m->board.slotAssignedKey("M4", "four", {{8, 0}});
+    for (int index : {7, 8}) {
+        m->key(index)->click();
+        m->board.slotDualActionAssigned(staged(5, 6, 40));
+    }
+    m->board.slotRenameMacro("M3", "drei");
+    m->board.slotDualActionBack();
+    QCOMPARE(m->key(7)->text(), QString("M3"));
+    QCOMPARE(m->key(7)->toolTip(), QString("drei"));
+    QCOMPARE(m->key(8)->toolTip(), QString("four"));
+}
+
+void tst_AssignLogic::anotherProfileEndsTheEdit()
+{
+    m->select(7);
+    m->board.slotDualActionAssigned(staged(5, 6, 40));
+    m->store.profile(7, 4).keys[7] = plainKey(9);
+    m->board.showProfile(7, 4);
+    m->store.clearLog();
+    m->board.slotDualActionBack();
+    QCOMPARE(m->key(7)->mapping(), plainKey(9));
+    m->board.showProfile(7, 3);
+    m->key(7)->click();
+    m->board.slotDualActionAssigned(staged(5, 6, 40));
+    m->board.showProfile(7, 4);
+    m->store.clearLog();
+    m->board.slotDualActionApply();
+    QCOMPARE(m->store.writes(), QStringList());
+    QCOMPARE(m->key(7)->mapping(), plainKey(9));
+}
+
 // Presets
+
+void tst_AssignLogic::samePresetAgainStylesNothing()
+{
+    const auto styles = [this] {
+        int sum = 0;
+        for (int index = 0; index < 28; ++index)
+            sum += m->key(index)->styleCount();
+        return sum;
+    };
+    m->board.applyPreset(5, 6);
+    const int before = styles();
+    m->board.applyPreset(5, 6);
+    QCOMPARE(styles(), before);
+    m->board.applyPreset(4, 5);
+    const int games = styles();
+    m->board.applyPreset(4, 5);
+    QCOMPARE(styles(), games);
+}
 
 void tst_AssignLogic::keyboardPreset()
 {

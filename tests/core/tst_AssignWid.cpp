@@ -4,8 +4,9 @@
 #include "interfaces/ButtonGroupEx.h"
 #include "support/TestMain.h"
 
+#include <QBitmap>
+#include <QGridLayout>
 #include <QLabel>
-#include <QLayout>
 
 #include <memory>
 
@@ -23,16 +24,20 @@ private slots:
     void geometry_data();
     void geometry();
     void keysInTheirRows();
+    void keysLieOnThePicture_data();
+    void keysLieOnThePicture();
     void upperKeys_data();
     void upperKeys();
     void clickSelectsAndAgainCancels();
     void announcement_data();
     void announcement();
+    void cutNamesAreAnnouncedWhole();
     void applyInputAnnouncesTheCheckedKey();
     void applyInputWithoutSelection();
     void dropSelection();
     void refusedAssignmentUnchecks();
     void maskOfTheOutline();
+    void maskFollowsThePicture();
     void maskWithoutWidget();
     void maskForAForeignWindow();
     void tinyAndHugeBoards();
@@ -130,6 +135,41 @@ void tst_AssignWid::keysInTheirRows()
     QVERIFY(place(27).x() < place(24).x());
     QVERIFY(place(27).y() < place(26).y());
     QVERIFY(place(26).y() < place(0).y());
+}
+
+void tst_AssignWid::keysLieOnThePicture_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QPoint>("wheel");
+    QTest::addColumn<QPoint>("keys");
+    QTest::newRow("as drawn") << QSize(425, 740) << 1 << QPoint(36, 207) << QPoint(36, 334);
+    // The picture stands at the top of a board that is taller, and so do the keys.
+    QTest::newRow("taller board") << QSize(425, 1000) << 1 << QPoint(36, 207) << QPoint(36, 334);
+    QTest::newRow("wider board") << QSize(625, 740) << 1 << QPoint(136, 207) << QPoint(136, 334);
+    // Margins and spacing leave room in simple mode, and the layout spreads it evenly.
+    QTest::newRow("simple") << QSize(425, 555) << 0 << QPoint(36, 27) << QPoint(36, 149);
+    QTest::newRow("simple, taller") << QSize(425, 900) << 0 << QPoint(36, 27) << QPoint(36, 149);
+}
+
+void tst_AssignWid::keysLieOnThePicture()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, mode);
+    QFETCH(QPoint, wheel);
+    QFETCH(QPoint, keys);
+    m->board.resize(size);
+    m->board.layoutForMode(mode);
+    m->board.show();
+    m->board.layout()->activate();
+    QCOMPARE(child<QWidget>(&m->board, "m_wheelWid")->pos(), wheel);
+    QCOMPARE(child<QWidget>(&m->board, "m_keyWid")->pos(), keys);
+    const auto *const upper = child<QGridLayout>(&m->board, "gridLayout_2");
+    QCOMPARE(upper->horizontalSpacing(), 48);
+    QCOMPARE(upper->verticalSpacing(), mode == 1 ? 14 : 10);
+    const auto *const main = child<QGridLayout>(&m->board, "gridLayout_3");
+    QCOMPARE(main->horizontalSpacing(), 2);
+    QCOMPARE(main->verticalSpacing(), 2);
 }
 
 void tst_AssignWid::upperKeys_data()
@@ -235,6 +275,26 @@ void tst_AssignWid::announcement()
     QCOMPARE(told, expected);
 }
 
+void tst_AssignWid::cutNamesAreAnnouncedWhole()
+{
+    const QString name = "Save for the web and for devices";
+    m->profile().hotKeys[2] = {0, "CTRL+S", name};
+    m->board.showProfile(7, 3);
+    m->board.slotAssignedKey("M123456789", "a macro", {{3, 0}});
+    m->board.resize(120, 200);
+    m->board.layoutForMode(1);
+    QVERIFY(m->key(2)->text() != name);
+    QVERIFY(m->key(3)->text() != QString("M123456789"));
+    QSignalSpy hotKey(&m->board, &AssignWid::sigApplicationAdvSelected);
+    m->key(2)->click();
+    QCOMPARE(hotKey.at(0).at(0).toString(), name);
+    QSignalSpy macro(&m->board, &AssignWid::sigMacroSelected);
+    m->key(3)->click();
+    QCOMPARE(macro.at(0).at(0).toString(), QString("M123456789"));
+    m->board.slotRenameMacro("M123456789", "another name");
+    QCOMPARE(m->key(3)->toolTip(), QString("another name"));
+}
+
 void tst_AssignWid::applyInputAnnouncesTheCheckedKey()
 {
     m->select(4);
@@ -304,6 +364,28 @@ void tst_AssignWid::maskOfTheOutline()
     QVERIFY(bounds.bottom() < 20 + 740 - 15);
     QVERIFY(!region.contains(QPoint(50, 20)));
     m->board.setParent(nullptr);
+}
+
+void tst_AssignWid::maskFollowsThePicture()
+{
+    m->board.resize(425, 740);
+    m->board.layoutForMode(1);
+    const auto *const picture = child<QLabel>(&m->board, "m_picture");
+    const QRegion outline(picture->pixmap(Qt::ReturnByValue).mask());
+    const std::vector<QRect> drawn(outline.begin(), outline.end());
+    const QRegion region = m->board.keyBoardRegion(picture);
+    const std::vector<QRect> rects(region.begin(), region.end());
+    std::size_t tallest = 0;
+    for (std::size_t i = 0; i < drawn.size(); ++i) {
+        if (drawn[i].height() >= drawn[tallest].height())
+            tallest = i;
+    }
+    QVERIFY(tallest > 0);
+    QCOMPARE(rects.size(), tallest + 1);
+    QCOMPARE(rects.front(), drawn.front().adjusted(6, 0, -5, 0));
+    for (std::size_t i = 1; i < tallest; ++i)
+        QCOMPARE(rects[i], drawn[i]);
+    QCOMPARE(rects.back(), drawn[tallest].adjusted(0, 0, -1, -15));
 }
 
 void tst_AssignWid::maskWithoutWidget()

@@ -2,8 +2,8 @@
 
 #include "advanced/ReassignDlg.h"
 #include "interfaces/IEnvironment.h"
-#include "toolkit/DarkPalette.h"
 #include "toolkit/NarrowText.h"
+#include "toolkit/ReadableOn.h"
 #include "ui_AssignMenuUi.h"
 #include "vocabulary/Common.h"
 #include "vocabulary/KeyCodes.h"
@@ -14,6 +14,8 @@
 
 namespace {
 
+/// Pixels beside the text of a button and of the key's name.
+constexpr int TextMargins = 4;
 /// Property of a label: its text before it was cut to the label's width.
 constexpr char wholeTextProperty[] = "wholeText";
 
@@ -69,10 +71,12 @@ AssignMenuWid::AssignMenuWid(QWidget *parent)
       m_reassignDlg(new ReassignDlg(IEnvironment::Instance()->getMainWidget()))
 {
     m_ui->setupUi(this);
-    setPalette(darkPalette());
     m_ui->m_dualActionLab->hide();
-    for (QWidget *fitted : m_ui->widget->findChildren<QWidget *>())
-        fitted->installEventFilter(this);
+    for (QPushButton *command : m_ui->widget->findChildren<QPushButton *>())
+        keepTextNarrow(command, TextMargins);
+    keepTextNarrow(m_ui->m_keyLab, TextMargins);
+    m_ui->m_assignLab->installEventFilter(this);
+    m_ui->m_dualActionLab->installEventFilter(this);
     connectButtons();
     connectDialog();
 }
@@ -137,7 +141,7 @@ void AssignMenuWid::slotKeySelectionChanged(int iKeyIdx)
 {
     m_iKeyIdx = ushort(iKeyIdx);
     m_ui->m_keyLab->setText(QStringLiteral("VANTRIX %1").arg(iKeyIdx + 1, 2, 10, QLatin1Char('0')));
-    narrowText(m_ui->m_keyLab, m_ui->m_keyLab->text(), m_ui->m_keyLab->contentsRect().width());
+    narrowText(m_ui->m_keyLab, m_ui->m_keyLab->text(), m_ui->m_keyLab->width() - TextMargins);
     m_ui->m_controllerMode->setVisible(iKeyIdx < MainKeyCount);
     m_ui->m_dualActionMode->setVisible(iKeyIdx < MainKeyCount);
 }
@@ -344,13 +348,8 @@ void AssignMenuWid::reveal()
 
 bool AssignMenuWid::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Resize) {
-        if (auto *const button = qobject_cast<QPushButton *>(watched))
-            narrowText(button, button->text(), button->width() - 4);
-        else if (watched == m_ui->m_keyLab)
-            narrowText(m_ui->m_keyLab, m_ui->m_keyLab->text(), m_ui->m_keyLab->width() - 4);
-        else if (auto *const label = qobject_cast<QLabel *>(watched))
-            Common::SetText(label, label->property(wholeTextProperty).toString());
-    }
+    auto *const label = qobject_cast<QLabel *>(watched);
+    if (label && event->type() == QEvent::Resize)
+        Common::SetText(label, label->property(wholeTextProperty).toString());
     return QWidget::eventFilter(watched, event);
 }

@@ -2,7 +2,6 @@
 
 #include "interfaces/IEnvironment.h"
 #include "interfaces/Modal.h"
-#include "toolkit/DarkPalette.h"
 #include "toolkit/FocusRing.h"
 #include "ui_ReassignDlg.h"
 #include "vocabulary/KeyCodes.h"
@@ -26,7 +25,6 @@ ReassignDlg::ReassignDlg(QWidget *parent)
 {
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
-    setPalette(darkPalette());
     m_ui->setupUi(this);
     // The veil is as large as the window under it, however little room that leaves.
     setMinimumSize(1, 1);

@@ -15,7 +15,8 @@
 ///
 /// The shell calls `updateUi` to show a profile, `showMapping` as it shows or leaves the page, and
 /// answers the signals. Everything here belongs to the interface thread. Any size will do; the
-/// page is drawn for 784 by 808 pixels and more.
+/// page is drawn for 784 by 808 pixels and more, and for a dark palette with light texts, which is
+/// the application's to set.
 class VANTRIX_EXPORT VantrixMapWid : public QWidget
 {
     Q_OBJECT

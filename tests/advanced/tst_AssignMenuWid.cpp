@@ -21,6 +21,7 @@ private slots:
     void dualActionWithoutFirstActionIsUnassigned();
     void showsLabels();
     void picturesHaveNames();
+    void textsAreReadableOnTheirColour();
     void selectionSlotsHideTheSecondLabel();
     void updateLeavesTheSecondLabel();
     void revealsInAdvancedModeOnly();
@@ -196,6 +197,19 @@ void tst_AssignMenuWid::showsLabels()
     QCOMPARE(label("m_keyLab")->styleSheet(), frameOf("#ffffff00"));
     QCOMPARE(label("m_assignLab")->styleSheet(), fillOf("#ffffff00"));
     QCOMPARE(label("m_assignLab")->text(), QString("A"));
+}
+
+void tst_AssignMenuWid::textsAreReadableOnTheirColour()
+{
+    const auto textColor = [this] {
+        return label("m_assignLab")->palette().color(QPalette::WindowText);
+    };
+    select(0, plainKey(1536));
+    QCOMPARE(textColor(), QColor(Qt::black));
+    select(0, plainKey(312));
+    QCOMPARE(textColor(), QColor(Qt::white));
+    select(0, plainKey(255));
+    QCOMPARE(textColor(), QColor(Qt::black));
 }
 
 void tst_AssignMenuWid::picturesHaveNames()

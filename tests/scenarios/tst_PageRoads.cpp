@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -34,6 +35,7 @@ private slots:
     void init();
     void cleanup();
     void macroForAKeyAndBack();
+    void macroFromTheDialogAndBack();
     void macroFromRecordingToDeletion();
     void exportAndImport();
     void deviceIsPressed();
@@ -51,9 +53,10 @@ private:
         return get<QPushButton>(qPrintable(QStringLiteral("key_%1").arg(keyIdx)));
     }
     /// The button that a person would find by these words.
-    QAbstractButton *shown(const QString &text)
+    QAbstractButton *shown(const QString &text, const QWidget *within = nullptr)
     {
-        for (QAbstractButton *const button : m_window->findChildren<QAbstractButton *>()) {
+        const QWidget *const root = within ? within : m_window.get();
+        for (QAbstractButton *const button : root->findChildren<QAbstractButton *>()) {
             if (button->isVisible() && button->text() == text)
                 return button;
         }
@@ -144,6 +147,37 @@ void tst_PageRoads::macroForAKeyAndBack()
     QCOMPARE(list->count(), 1);
     XGestures::click(list->viewport(), list->visualItemRect(list->item(0)).center());
     QCOMPARE(key(7)->text(), QStringLiteral("M1"));
+    QCOMPARE(*state().macroKey(0, 0, 7), QStringLiteral("Macro"));
+}
+
+/// In advanced mode the wish for a new macro comes out of the modal dialog.
+void tst_PageRoads::macroFromTheDialogAndBack()
+{
+    XGestures::click(shown(QStringLiteral("ADVANCED")));
+    XGestures::click(key(7));
+    once<QDialog>([this](QDialog *dialog) {
+        XGestures::click(shown(QStringLiteral("MACRO"), dialog));
+        XGestures::click(shown(QStringLiteral("CREATE NEW MACRO"), dialog));
+    });
+    XGestures::click(shown(QStringLiteral("REASSIGN KEY")));
+    QTRY_VERIFY(!QApplication::activeModalWidget());
+    QTRY_COMPARE(m_window->shownPage(), ShellPage::Macros);
+    XGestures::focus(m_window.get());
+    QTRY_VERIFY(get<QPushButton>("m_recordBtn")->hasFocus());
+    XGestures::key(QStringLiteral("space"));
+    XGestures::type(QStringLiteral("hi"));
+    XGestures::xdotool({QStringLiteral("key"), QStringLiteral("Escape"), QStringLiteral("Escape")});
+    QTRY_COMPARE(int(state().macro(0, QStringLiteral("Macro"))->count), 4);
+    XGestures::click(get<QPushButton>("m_backBtn"));
+    QTRY_COMPARE(m_window->shownPage(), ShellPage::Mapping);
+    QVERIFY(key(7)->isChecked());
+    once<QDialog>([this](QDialog *dialog) {
+        XGestures::click(shown(QStringLiteral("MACRO"), dialog));
+        XGestures::click(shown(QStringLiteral("Macro"), dialog));
+        XGestures::click(shown(QStringLiteral("APPLY"), dialog));
+    });
+    XGestures::click(shown(QStringLiteral("REASSIGN KEY")));
+    QTRY_COMPARE(key(7)->text(), QStringLiteral("M1"));
     QCOMPARE(*state().macroKey(0, 0, 7), QStringLiteral("Macro"));
 }
 

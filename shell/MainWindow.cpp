@@ -229,7 +229,7 @@ void MainWindow::connectContext()
 {
     ProfileStore &store = m_context.store();
     connect(&m_context, &ShellContext::goTo, this, [this](int profile, int key) {
-        m_mapping->showProfile(profile, key);
+        m_mapping->goTo(profile, key);
         if (key < KeyCount && !m_mapping->isVisible())
             showPage(ShellPage::Mapping);
     });
@@ -329,12 +329,14 @@ void MainWindow::resizeEvent(QResizeEvent *event)
 
 void MainWindow::undo()
 {
-    follow(m_context.store().undo(), tr("Undone: %1"));
+    const int shown = m_mapping->showCount();
+    follow(m_context.store().undo(), tr("Undone: %1"), shown);
 }
 
 void MainWindow::redo()
 {
-    follow(m_context.store().redo(), tr("Done again: %1"));
+    const int shown = m_mapping->showCount();
+    follow(m_context.store().redo(), tr("Done again: %1"), shown);
 }
 
 void MainWindow::travelTo(int position)
@@ -346,17 +348,18 @@ void MainWindow::travelTo(int position)
         redo();
 }
 
-void MainWindow::follow(const std::optional<StepOutcome> &outcome, const QString &text)
+/// `shown` is the number of showings before the step: one that changed keys has been shown
+/// already, as the store told, and one that did not has brought another selection or mode.
+void MainWindow::follow(const std::optional<StepOutcome> &outcome, const QString &text, int shown)
 {
     if (!outcome)
         return;
-    if (outcome->pressoChanged) {
+    if (outcome->pressoChanged)
         m_context.device().setPressureEnabled(m_context.store().getPressoEnabled());
-        m_mapping->refresh();
-    }
-    // The shown profile has been shown again already, as the store told.
     if (outcome->profile >= 0 && outcome->profile != m_context.profile())
         m_mapping->showProfile(outcome->profile, outcome->currentKey);
+    else if (m_mapping->showCount() == shown)
+        m_mapping->refresh();
     emit m_context.status(text.arg(outcome->name));
 }
 

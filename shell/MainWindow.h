@@ -51,7 +51,7 @@ private:
     void restore();
     void sayWhatIsPending();
     void arrange();
-    void follow(const std::optional<StepOutcome> &outcome, const QString &text);
+    void follow(const std::optional<StepOutcome> &outcome, const QString &text, int shown);
     void updateSteps();
     void updateState();
     void onSettingChanged(const QString &name);

@@ -98,6 +98,7 @@ void MappingView::connectStore()
 
 void MappingView::showProfile(int profile, int keyIdx)
 {
+    ++m_showCount;
     m_page->showMapping(false);
     m_page->updateUi(profile);
     tellMacros();
@@ -108,6 +109,17 @@ void MappingView::showProfile(int profile, int keyIdx)
     m_isFocusInside = false;
     selectKey(keyIdx);
     updateCapture();
+}
+
+void MappingView::goTo(int profile, int keyIdx)
+{
+    if (profile != m_context.profile() || keyIdx >= KeyCount) {
+        showProfile(profile, keyIdx);
+        return;
+    }
+    m_isFocusInside = false;
+    updateCapture();
+    selectKey(keyIdx);
 }
 
 void MappingView::refresh()

@@ -22,8 +22,13 @@ public:
     VantrixMapWid *page() const { return m_page; }
     /// Shows a profile and selects a key of it; 28 or more selects none.
     void showProfile(int profile, int keyIdx);
+    /// Goes to a key of a profile. A profile that is shown is not shown anew, so whatever the page
+    /// has to say about it is not said again.
+    void goTo(int profile, int keyIdx);
     /// Shows the shown profile again, as the store has it, selection included.
     void refresh();
+    /// How often a profile was shown.
+    int showCount() const { return m_showCount; }
     /// Makes the page anew, as a change of language asks for; the selection stays.
     void rebuild();
     /// Sends the shown profile to the device.
@@ -53,6 +58,7 @@ private:
     KeyMarks *m_marks = nullptr;
     QStringList m_toldMacros; ///< macros the page knows, in its order
     std::set<std::pair<int, int>> m_marked;
+    int m_showCount = 0;
     bool m_isCaptureAllowed = true;
     bool m_isFocusInside = true;
 };

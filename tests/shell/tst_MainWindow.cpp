@@ -44,6 +44,7 @@ private slots:
     void pagesShareTheRoom();
     void profilesShrink();
     void goToShowsTheKey();
+    void goToInTheShownProfile();
     void languageKeepsTheSelection();
     void captureCanBeForbidden();
     void captureKeepsShortcutsOut();
@@ -64,6 +65,8 @@ private:
     void click(const char *name) { child<QAbstractButton>(page(), name)->click(); }
     /// A key and an entry of the drawn keyboard.
     void assign(int index, const char *entry);
+    QStringList faces();
+    void editAnything(std::mt19937 &random);
     const StoreState &state() { return m_shell->store().state(); }
     ushort code(int index, int profile = 0) { return state().mapping(0, profile, index).code; }
     QString said() { return m_window->statusText(); }
@@ -236,20 +239,79 @@ void tst_MainWindow::historyTravels()
     QCOMPARE(key(7)->text(), QStringLiteral("W"));
 }
 
-void tst_MainWindow::randomEditsUndone()
+/// What the page shows of each key.
+QStringList tst_MainWindow::faces()
+{
+    QStringList faces;
+    for (int index = 0; index < KeyCount; ++index) {
+        const QPushButton *const button = key(index);
+        faces << button->text() + button->toolTip() + button->styleSheet() +
+                     (button->isChecked() ? QStringLiteral(" checked") : QString());
+    }
+    return faces;
+}
+
+/// One edit of any sort that a person can make in the window.
+void tst_MainWindow::editAnything(std::mt19937 &random)
 {
     static const char *const entries[] = {"btn_48", "btn_30", "btn_31", "btn_57", "btn_59"};
-    std::mt19937 random(4711);
-    const QByteArray start = contents();
-    for (int i = 0; i < 200; ++i) {
-        if (random() % 10 == 0)
-            emit m_shell->context.goTo(int(random() % 24), NoKey);
+    ProfileStore &store = m_shell->store();
+    const int profile = int(random() % 24);
+    const QStringList macros = state().macroNames(0);
+    switch (random() % 12) {
+    case 0:
+        emit m_shell->context.goTo(profile, int(random() % 29));
+        break;
+    case 1:
+        m_window->mappingView()->page()->slotPanelChanged(0, int(random() % 3));
+        break;
+    case 2:
+        m_window->mappingView()->page()->slotPanelChanged(4, 3 + int(random() % 3));
+        break;
+    case 3:
+        store.setProfileName(0, profile, QString::number(random() % 100));
+        break;
+    case 4:
+        store.moveProfile(0, profile, int(random() % 24));
+        break;
+    case 5:
+        store.duplicateProfile(0, m_shell->context.profile(), profile);
+        break;
+    case 6: {
+        const QString name = store.freeMacroName(0, QStringLiteral("Macro"));
+        store.addMacro(0, name, {});
+        emit m_shell->context.macroAdded(name);
+        break;
+    }
+    case 7:
+        if (macros.isEmpty())
+            break;
+        emit m_shell->context.macroAboutToBeRemoved(macros.first());
+        store.removeMacro(0, macros.first());
+        break;
+    case 8:
+        store.setPressoEnabled(int(random() % 2));
+        break;
+    default:
         assign(int(random() % 28), entries[random() % 5]);
     }
+    store.flush();
+}
+
+void tst_MainWindow::randomEditsUndone()
+{
+    std::mt19937 random(4711);
+    const QByteArray start = contents();
+    for (int i = 0; i < 200; ++i)
+        editAnything(random);
     const QByteArray end = contents();
     QVERIFY(start != end);
-    while (m_shell->store().canUndo())
+    while (m_shell->store().canUndo()) {
         m_window->undo();
+        const QStringList shown = faces();
+        m_window->mappingView()->refresh();
+        QCOMPARE(shown, faces());
+    }
     QCOMPARE(contents(), start);
     while (m_shell->store().canRedo())
         m_window->redo();
@@ -383,6 +445,20 @@ void tst_MainWindow::goToShowsTheKey()
     QCOMPARE(m_window->shownPage(), ShellPage::Mapping);
     QVERIFY(key(11)->isChecked());
     QCOMPARE(m_shell->store().getCurrentKey(0, 2), 11);
+}
+
+void tst_MainWindow::goToInTheShownProfile()
+{
+    key(3)->click();
+    QSignalSpy shown(&m_shell->context, &ShellContext::profileShown);
+    emit m_shell->context.goTo(0, 11);
+    QVERIFY(key(11)->isChecked());
+    QVERIFY(!key(3)->isChecked());
+    emit m_shell->context.goTo(0, 11);
+    QVERIFY(key(11)->isChecked());
+    QCOMPARE(shown.count(), 0);
+    emit m_shell->context.goTo(0, NoKey);
+    QVERIFY(!key(11)->isChecked());
 }
 
 void tst_MainWindow::languageKeepsTheSelection()

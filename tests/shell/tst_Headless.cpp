@@ -1,0 +1,156 @@
+#include "shell/Headless.h"
+
+#include "ShellFixture.h"
+#include "support/TestMain.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QTextStream>
+
+/// The road without a display, in this process and as a program.
+class tst_Headless : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void walksTheRoad();
+    void walksOnAnotherProfile();
+    void tellsWhenThePictureCannotBeWritten();
+    void printsStoreAndDevice();
+    void program();
+    void programWithoutDisplay();
+    void programKeepsItsDataFolder();
+    void badOptions_data();
+    void badOptions();
+
+private:
+    static QByteArray run(const QStringList &arguments, QByteArray *errors = nullptr,
+                          int *exitCode = nullptr, bool hasDisplay = true);
+};
+
+QByteArray tst_Headless::run(const QStringList &arguments, QByteArray *errors, int *exitCode,
+                             bool hasDisplay)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (!hasDisplay) {
+        for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QLatin1String(name));
+    }
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(SHELL_PROGRAM), arguments);
+    process.waitForFinished(60000);
+    if (errors)
+        *errors = process.readAllStandardError();
+    if (exitCode)
+        *exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    return process.readAllStandardOutput();
+}
+
+void tst_Headless::walksTheRoad()
+{
+    ShellFixture shell;
+    QString text;
+    QString errors;
+    QTextStream out(&text);
+    QTextStream err(&errors);
+    const QString picture = shell.folder.filePath(QStringLiteral("page.png"));
+    QCOMPARE(Headless::walk(shell.services, {0, picture}, out, err), 0);
+    QCOMPARE(errors, QString());
+    const QStringList lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 30);
+    QCOMPARE(lines[0], QStringLiteral("The device received profile 1:"));
+    QCOMPARE(lines[9].simplified(), QStringLiteral("7 W KEYBOARD 5 B"));
+    QCOMPARE(lines[10].simplified(), QStringLiteral("8 E UNASSIGNED 255 UNASSIGNED"));
+    QCOMPARE(QImage(picture).size(), QSize(784, 808));
+    QCOMPARE(ushort(shell.device().image(0, 0).keys[7].content.mapping.code), ushort(5));
+}
+
+void tst_Headless::walksOnAnotherProfile()
+{
+    ShellFixture shell;
+    QString text;
+    QTextStream out(&text);
+    QCOMPARE(Headless::walk(shell.services, {11, QString()}, out, out), 0);
+    QVERIFY(text.startsWith(QStringLiteral("The device received profile 12:")));
+    QCOMPARE(shell.device().currentProfile(), 11);
+}
+
+void tst_Headless::tellsWhenThePictureCannotBeWritten()
+{
+    ShellFixture shell;
+    QString text;
+    QString errors;
+    QTextStream out(&text);
+    QTextStream err(&errors);
+    const QString picture = shell.folder.filePath(QStringLiteral("no/such/folder.png"));
+    QCOMPARE(Headless::walk(shell.services, {0, picture}, out, err), 1);
+    QVERIFY(errors.contains(QStringLiteral("could not be written")));
+}
+
+void tst_Headless::printsStoreAndDevice()
+{
+    ShellFixture shell;
+    shell.assign(7, 5);
+    shell.apply();
+    shell.assign(7, 6);
+    QString text;
+    QTextStream out(&text);
+    Headless::printProfile(shell.services, 0, out);
+    const int device = text.indexOf(QStringLiteral("Device:"));
+    QVERIFY(text.left(device).simplified().contains(QStringLiteral("7 W KEYBOARD 6 C")));
+    QVERIFY(text.mid(device).simplified().contains(QStringLiteral("7 W KEYBOARD 5 B")));
+}
+
+void tst_Headless::program()
+{
+    int exitCode = -1;
+    const QByteArray text = run({QStringLiteral("--headless")}, nullptr, &exitCode);
+    QCOMPARE(exitCode, 0);
+    QCOMPARE(text.count('\n'), 30);
+}
+
+void tst_Headless::programWithoutDisplay()
+{
+    int exitCode = -1;
+    QByteArray errors;
+    const QByteArray text = run({}, &errors, &exitCode, false);
+    QCOMPARE(exitCode, 0);
+    QVERIFY(errors.contains("There is no display: running headless."));
+    QCOMPARE(text.count('\n'), 30);
+}
+
+void tst_Headless::programKeepsItsDataFolder()
+{
+    const QTemporaryDir folder;
+    const QStringList data = {QStringLiteral("--data"), folder.path()};
+    run(QStringList(data) << QStringLiteral("--headless") << QStringLiteral("--profile")
+                          << QStringLiteral("3"));
+    QVERIFY(QFile::exists(folder.filePath(QStringLiteral("profiles.sqlite"))));
+    const QByteArray text =
+        run(QStringList(data) << QStringLiteral("--print-profile") << QStringLiteral("--profile")
+                              << QStringLiteral("3"));
+    QCOMPARE(text.simplified().count("7 W KEYBOARD 5 B"), 2);
+}
+
+void tst_Headless::badOptions_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("profile 0") << QStringList({"--headless", "--profile", "0"});
+    QTest::newRow("profile 25") << QStringList({"--headless", "--profile", "25"});
+    QTest::newRow("profile x") << QStringList({"--headless", "--profile", "x"});
+    QTest::newRow("language") << QStringList({"--headless", "--language", "Elvish"});
+    QTest::newRow("unknown") << QStringList({"--headless", "--nonsense"});
+}
+
+void tst_Headless::badOptions()
+{
+    QFETCH(QStringList, arguments);
+    int exitCode = 0;
+    const QByteArray text = run(arguments, nullptr, &exitCode);
+    QVERIFY(exitCode > 0);
+    QCOMPARE(text, QByteArray());
+}
+
+VANTRIX_TEST_MAIN(tst_Headless)
+#include "tst_Headless.moc"

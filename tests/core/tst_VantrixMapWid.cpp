@@ -4,17 +4,23 @@
 #include "core/BoardFixture.h"
 #include "core/LegendWid.h"
 #include "core/PageFixture.h"
+#include "interfaces/ButtonGroupEx.h"
+#include "interfaces/CfgFile.h"
+#include "macro/AssignKey.h"
+#include "macro/MacroAdvWid.h"
 #include "panels/InputWid.h"
 #include "panels/Keyboard.h"
 #include "panels/MapWid.h"
 #include "panels/PressoWid.h"
 #include "panels/SidePanelWid.h"
 #include "support/TestMain.h"
+#include "toolkit/FocusRing.h"
 
 #include <QButtonGroup>
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QTemporaryFile>
 #include <QVBoxLayout>
 
 class tst_VantrixMapWid : public QObject, PageFixture
@@ -29,6 +35,8 @@ private slots:
     void form();
     void legend();
     void modeButtons();
+    void freshPage();
+    void detectsTheApplications();
     void geometry_data();
     void geometry();
     void heightOfThePanels_data();
@@ -42,9 +50,12 @@ private slots:
     void updateUiShowsTheProfile();
     void updateUiOrder();
     void updateKeyMappingReadsAnew();
+    void updateKeyMappingDropsStrayLabels();
     void modeClick();
+    void modeClickShowsTheKeyAnew();
     void sameModeClickWritesNothing();
     void inputClick();
+    void sidePanelChecksTheStoredPreset();
     void sidePanelRule_data();
     void sidePanelRule();
     void menuRule();
@@ -53,11 +64,14 @@ private slots:
     void presets_data();
     void presets();
     void presetAfterPreset();
+    void presetShowsTheSelectedKeyAnew();
     void pressureSwitch();
     void apply();
     void reset();
     void resetDeclined();
     void macros();
+    void macrosOfTheDialog();
+    void createMacroIsPassedOn();
     void deletedMacro();
     void updateMacroAssign();
     void winShortcutKeys();
@@ -116,6 +130,39 @@ void tst_VantrixMapWid::modeButtons()
     QCOMPARE(find<QPushButton>("m_advanced")->styleSheet(), sheet);
     QVERIFY(find<QPushButton>("m_simple")->isChecked());
     QVERIFY(!find<QPushButton>("m_advanced")->isChecked());
+}
+
+void tst_VantrixMapWid::freshPage()
+{
+    QWidget window;
+    const VantrixMapWid fresh(6, &window);
+    for (const char *const name : {"m_sidePanelWid", "m_assignMenuWid"})
+        QVERIFY(child<QWidget>(&fresh, name)->isHidden());
+    QVERIFY(fresh.findChild<FocusRing *>());
+    QCOMPARE(m_store->writes(), QStringList());
+    // Nothing is selected before a profile shows, and the scope is that of profile 0.
+    child<QPushButton>(&fresh, "key_7")->click();
+    QCOMPARE(m_store->writes(), QStringList({"setCurrentKey 6 0 7"}));
+}
+
+void tst_VantrixMapWid::detectsTheApplications()
+{
+    QTemporaryFile program;
+    QVERIFY(program.open());
+    CfgFile::Locations locations;
+    locations.latestAppPaths =
+        QStringList({program.fileName(), program.fileName(), program.fileName()});
+    CfgFile::setLocations(locations);
+    {
+        const VantrixMapWid fresh(6);
+        QThreadPool::globalInstance()->waitForDone();
+    }
+    CfgFile::setLocations({});
+    for (int appType = 0; appType < 3; ++appType) {
+        QString path;
+        m_store->getAppPath(appType, path);
+        QCOMPARE(path, program.fileName());
+    }
 }
 
 void tst_VantrixMapWid::geometry_data()
@@ -313,6 +360,21 @@ void tst_VantrixMapWid::updateKeyMappingReadsAnew()
     QVERIFY(key(8)->text() != QString("Help"));
 }
 
+void tst_VantrixMapWid::updateKeyMappingDropsStrayLabels()
+{
+    // A label without anything behind it; its record is that of no plain code.
+    profile().keys[7] = plainKey(9);
+    profile().keys[7].type = 1;
+    profile().macros[8] = "one";
+    m_page->slotAddKeyAssignMacro("one");
+    m_store->clearLog();
+    m_page->updateKeyMapping();
+    QCOMPARE(m_store->writes().filter("setKeyMapping"), QStringList({"setKeyMapping 5 2 7"}));
+    QCOMPARE(profile().keys.at(7), plainKey(255));
+    QCOMPARE(key(7)->text(), QString("W"));
+    QCOMPARE(key(8)->text(), QString("M1"));
+}
+
 void tst_VantrixMapWid::modeClick()
 {
     click("m_advanced");
@@ -322,6 +384,19 @@ void tst_VantrixMapWid::modeClick()
     click("m_simple");
     QVERIFY(!find<QWidget>("m_mapWid")->isHidden());
     QCOMPARE(profile().mode, 0);
+}
+
+void tst_VantrixMapWid::modeClickShowsTheKeyAnew()
+{
+    key(7)->click();
+    click("btn_48");
+    find<AssignWid>("m_assignWid")->slotApplicationAssigned(0, 3);
+    click("m_advanced");
+    // The frame of the menu has the colour of applications by now.
+    QVERIFY(find<QLabel>("m_keyLab")->styleSheet().contains("#ffffff00"));
+    find<AssignWid>("m_assignWid")->slotVantrixKeyAssigned(plainKey(5));
+    click("m_simple");
+    QVERIFY(find<QPushButton>("btn_48")->isChecked());
 }
 
 void tst_VantrixMapWid::sameModeClickWritesNothing()
@@ -341,6 +416,28 @@ void tst_VantrixMapWid::inputClick()
     QVERIFY(key(24)->isHidden());
     group->button(0)->click();
     QVERIFY(!key(24)->isHidden());
+}
+
+void tst_VantrixMapWid::sidePanelChecksTheStoredPreset()
+{
+    const auto checked = [this] {
+        const auto groups = find<SidePanelWid>("m_sidePanelWid")->findChildren<ButtonGroupEx *>();
+        for (const ButtonGroupEx *const group : groups) {
+            if (group->button(8))
+                return group->checkedId();
+        }
+        return -1;
+    };
+    const auto *const inputs = find<QWidget>("m_inputWid")->findChild<QButtonGroup *>();
+    for (int preset : {4, 8}) {
+        profile().panel = preset;
+        inputs->button(10)->click();
+        QCOMPARE(checked(), preset);
+        inputs->button(0)->click();
+    }
+    m_store->clearLog();
+    inputs->button(10)->click();
+    QCOMPARE(m_store->writes(), QStringList({"setInput 5 2 10"}));
 }
 
 void tst_VantrixMapWid::sidePanelRule_data()
@@ -502,6 +599,17 @@ void tst_VantrixMapWid::presetAfterPreset()
     }
 }
 
+void tst_VantrixMapWid::presetShowsTheSelectedKeyAnew()
+{
+    key(0)->click();
+    m_page->slotPanelChanged(0, 1);
+    QVERIFY(key(0)->isChecked());
+    QVERIFY(find<QPushButton>("btn_2")->isChecked());
+    m_page->slotPanelChanged(0, 0);
+    QVERIFY(find<QPushButton>("btn_41")->isChecked());
+    QVERIFY(!find<QPushButton>("btn_2")->isChecked());
+}
+
 void tst_VantrixMapWid::pressureSwitch()
 {
     QSignalSpy request(m_page, &VantrixMapWid::sigSdkRequest);
@@ -566,6 +674,35 @@ void tst_VantrixMapWid::macros()
     QCOMPARE(key(7)->toolTip(), QString("one"));
     m_page->slotRenameKeyAssignMacro("one", "eins");
     QCOMPARE(key(7)->toolTip(), QString("eins"));
+}
+
+void tst_VantrixMapWid::macrosOfTheDialog()
+{
+    const auto names = [this] {
+        QStringList texts;
+        const auto keys = m_window->findChild<MacroAdvWid *>()->findChildren<AssignKey *>();
+        for (const AssignKey *const entry : keys)
+            texts << entry->text();
+        return texts;
+    };
+    const int before = names().size();
+    m_page->slotAddKeyAssignMacro("one");
+    QCOMPARE(names().size(), before + 1);
+    QVERIFY(names().contains("one"));
+    m_page->slotRenameKeyAssignMacro("one", "eins");
+    QVERIFY(!names().contains("one"));
+    QVERIFY(names().contains("eins"));
+    m_page->slotDelKeyAssignMacro("eins");
+    QTRY_COMPARE(names().size(), before);
+}
+
+void tst_VantrixMapWid::createMacroIsPassedOn()
+{
+    QSignalSpy told(m_page, &VantrixMapWid::sigSwitchToMacro);
+    emit find<MapWid>("m_mapWid")->sigCreateMacro();
+    QCOMPARE(told.count(), 1);
+    emit find<AssignMenuWid>("m_assignMenuWid")->sigCreateMacro();
+    QCOMPARE(told.count(), 2);
 }
 
 void tst_VantrixMapWid::deletedMacro()

@@ -26,8 +26,9 @@ QString KeyText::codeName(ushort code)
     QString legend = scan ? oneLine(keyLegend(scan, language())) : QString();
     if (!legend.isEmpty())
         return legend;
-    const QString name = oneLine(tr(keyFunctionName(code)));
-    return name == tr("UNKNOWN KEY") ? tr("CODE %1").arg(code) : name;
+    if (!qstrcmp(keyFunctionName(code), "UNKNOWN KEY"))
+        return tr("CODE %1").arg(code);
+    return oneLine(keyFunctionText(code));
 }
 
 QString KeyText::dualName(const vantrix_presso_digital &digital)
@@ -49,13 +50,12 @@ QString KeyText::extraName(const KeyContent &key)
     if (key.app) {
         const int type = key.app->appType;
         const int function = key.app->funcId;
-        return QStringLiteral("%1: %2").arg(tr(appTypeName(type)),
-                                            tr(appFunctionName(type, function)));
+        return QStringLiteral("%1: %2").arg(appTypeText(type), appFunctionText(type, function));
     }
     if (key.hotKey)
         return QStringLiteral("%1 (%2)").arg(key.hotKey->keyName, key.hotKey->hotKey);
     if (key.shortcut)
-        return tr(winShortcutName(key.shortcut->id));
+        return winShortcutText(key.shortcut->id);
     if (key.macroName)
         return *key.macroName;
     return key.extended ? codeName(key.extended->code) : QString();
@@ -69,9 +69,9 @@ QString KeyText::functionName(int keyIdx, const KeyContent &key)
     if (isDualAction(key.mapping))
         return dualName(key.mapping.digital);
     if (isCleared(keyIdx, key))
-        return tr("UNASSIGNED");
+        return inputTypeText(InputType::Unassigned);
     if (inputType(keyIdx, key) == InputType::Disabled)
-        return tr("DISABLED");
+        return inputTypeText(InputType::Disabled);
     return codeName(effectiveCode(key.mapping));
 }
 

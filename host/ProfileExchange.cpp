@@ -198,7 +198,7 @@ ExchangeReport ProfileExchange::put(const ExchangeContent &content, ProfileStore
         store.setProfileOrder(owner, content.order);
     for (const int appType : applications) {
         if (!store.hasAppPath(appType))
-            report.missingApplications << tr(appTypeName(appType));
+            report.missingApplications << appTypeText(appType);
     }
     return report;
 }

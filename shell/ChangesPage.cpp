@@ -27,8 +27,7 @@ QString keyName(int keyIdx)
 void setFunction(QTreeWidgetItem *item, int column, const QString &text, int kind)
 {
     item->setText(column, text);
-    item->setToolTip(column,
-                     QStringLiteral("%1 (%2)").arg(text, ChangesPage::tr(inputTypeName(kind))));
+    item->setToolTip(column, QStringLiteral("%1 (%2)").arg(text, inputTypeText(kind)));
     item->setData(column, FunctionDelegate::KindRole, kind);
 }
 

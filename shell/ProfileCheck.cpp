@@ -117,7 +117,7 @@ void ProfileCheck::checkApplications(int profile, const ProfileKeys &keys, Findi
             list.size() == 1 ? tr("%1 has a function of %2, which was not found on this computer.")
                              : tr("%1 have functions of %2, which was not found on this computer.");
         findings.push_back({CheckFinding::ApplicationNotFound, profile,
-                            text.arg(KeyTitle::of(list), KeyText::tr(appTypeName(appType))),
+                            text.arg(KeyTitle::of(list), appTypeText(appType)),
                             placesOf(profile, list)});
     }
 }

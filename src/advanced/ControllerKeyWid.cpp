@@ -37,7 +37,7 @@ ControllerKeyWid::ControllerKeyWid(int iKeyId, QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::ControllerKeyUi>()), m_iKeyId(iKeyId)
 {
     m_ui->setupUi(this);
-    const QString name = tr(keyFunctionName(ushort(iKeyId)));
+    const QString name = keyFunctionText(ushort(iKeyId));
     m_ui->m_gamepad->setText(name);
     m_ui->m_keyNo->setAccessibleName(name);
     measure();

@@ -54,7 +54,7 @@ void ReassignDlg::setUpSearch()
 void ReassignDlg::buildInputs()
 {
     for (int input = 0; input < InputCount; ++input) {
-        auto *button = new QPushButton(tr(inputTypeName(input)), m_ui->left_widget);
+        auto *button = new QPushButton(inputTypeText(input), m_ui->left_widget);
         button->setObjectName(QStringLiteral("input_%1").arg(input));
         button->setCheckable(true);
         button->setStyleSheet(

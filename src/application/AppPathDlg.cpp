@@ -33,7 +33,7 @@ AppPathDlg::AppPathDlg(int appType, QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->m_typeIcon->setPixmap(applicationPicture(appType));
-    m_ui->m_typeDesc->setText(tr(appTypeName(appType)));
+    m_ui->m_typeDesc->setText(appTypeText(appType));
     m_ui->m_path->setText(storedPath(appType));
     connect(m_ui->m_dir, &QToolButton::clicked, this, &AppPathDlg::slotPathChanged);
     connect(m_ui->m_close, &QToolButton::clicked, this, &AppPathDlg::accept);

@@ -32,14 +32,6 @@ QString folderSheet()
                           "image:url(:/VantrixMap/Application/dir.png);min-height:1px;}");
 }
 
-/// Untranslated hint, empty when the function has none.
-const char *functionHint(int appType, int id)
-{
-    const auto &hints = AppHints(appType);
-    const auto hint = hints.find(id);
-    return hint == hints.end() ? "" : hint->second;
-}
-
 } // namespace
 
 ApplicationBtn::ApplicationBtn(int appType, ApplicationWid *parent)
@@ -48,7 +40,7 @@ ApplicationBtn::ApplicationBtn(int appType, ApplicationWid *parent)
 {
     m_ui->setupUi(this);
     m_ui->m_funcList->verticalScrollBar()->setStyleSheet(scrollBarSheet());
-    m_ui->m_typeBtn->setText(tr(appTypeName(appType)));
+    m_ui->m_typeBtn->setText(appTypeText(appType));
     connect(m_ui->m_typeBtn, &QPushButton::toggled, m_ui->m_funcList, &QWidget::setVisible);
     m_ui->m_typeBtn->setChecked(false);
     m_ui->m_funcList->setVisible(false);
@@ -70,10 +62,8 @@ void ApplicationBtn::addFunctions()
         auto *const button = new FuncBtn(m_ui->scrollAreaWidgetContents);
         button->setStyleSheet(functionSheet());
         button->setIcon(QIcon(appPicture(m_appType, id)));
-        button->setText(tr(appFunctionName(m_appType, id)));
-        const char *const hint = functionHint(m_appType, id);
-        // The empty text is the key of a translation file's own header.
-        button->setToolTip(*hint ? tr(hint) : QString());
+        button->setText(appFunctionText(m_appType, id));
+        button->setToolTip(appHintText(m_appType, id));
         m_ui->m_layout->addWidget(button);
         m_group->addButton(button, id);
     }

@@ -10,7 +10,6 @@
 #include "ui_AssignUi.h"
 
 #include <QBitmap>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QPainter>
 #include <QPointer>
@@ -431,7 +430,7 @@ void AssignWid::warnOfMissingPaths()
     for (const int appType : missing) {
         MsgBox::warning(this, tr("warning"),
                         tr("Fail to find the path of the program.") + QStringLiteral("\r\n") +
-                            tr("Please assign it manually:") + QLatin1String(appTypeName(appType)));
+                            tr("Please assign it manually:") + appTypeText(appType));
         if (!alive)
             return;
     }
@@ -538,8 +537,7 @@ void AssignWid::slotUpdateWinShortcutKeys()
         if (!button)
             return;
         const QString text = QLatin1Char('M') + QString::number(base + shortcutId);
-        button->showMacro(text,
-                          QCoreApplication::translate("KeyCodes", winShortcutName(shortcutId)));
+        button->showMacro(text, winShortcutText(shortcutId));
         if (keyIdx == currentKey())
             emit sigMacroSelected(text);
     }

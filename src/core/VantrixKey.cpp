@@ -6,8 +6,6 @@
 #include "vocabulary/KeyCodes.h"
 #include "vocabulary/KeyNames.h"
 
-#include <QCoreApplication>
-
 namespace {
 
 QWidget *ancestor(QWidget *widget, int generations)
@@ -100,12 +98,9 @@ void VantrixKey::showHotKey(const QString &hotKey, const QString &keyName)
 
 void VantrixKey::showAppFunction(int appType, int funcId)
 {
-    const char *const name = appFunctionName(appType, funcId);
-    const auto &hints = AppHints(appType);
-    const auto hint = hints.find(funcId);
-    const bool hasHint = hint != hints.end() && *hint->second != '\0';
-    showLabel({InputType::Application, QCoreApplication::translate("Common", name),
-               QCoreApplication::translate("Common", hasHint ? hint->second : name)});
+    const QString name = appFunctionText(appType, funcId);
+    const QString hint = appHintText(appType, funcId);
+    showLabel({InputType::Application, name, hint.isEmpty() ? name : hint});
 }
 
 void VantrixKey::showLabel(const Label &label)

@@ -104,7 +104,7 @@ void VantrixMapWid::createStateLab()
     for (int state = InputType::Keyboard; state <= InputType::Unassigned; ++state) {
         if (state == InputType::PresetMode)
             continue;
-        const QString text = tr(inputTypeName(state));
+        const QString text = inputTypeText(state);
         QString sheet;
         Common::keyColorStyle(state, sheet);
         auto *const button = new QPushButton(m_data->m_stateWid);

@@ -58,7 +58,7 @@ OstraMenu *ActionBtn::buildTopMenu()
     auto *menu = new OstraMenu(parentWidget());
     QList<OstraAction *> entries;
     for (const int input : {InputType::Keyboard, InputType::Mouse, InputType::Media}) {
-        auto *entry = new OstraAction(m_side, 0, tr(inputTypeName(input)), menu);
+        auto *entry = new OstraAction(m_side, 0, inputTypeText(input), menu);
         entry->setOstraMenu(input == InputType::Keyboard
                                 ? buildKeyboardMenu(menu)
                                 : buildCodeMenu(InputKeyLists().at(input), menu));

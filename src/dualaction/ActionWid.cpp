@@ -30,7 +30,7 @@ ActionWid::~ActionWid() = default;
 void ActionWid::buildMenu()
 {
     for (const int input : {InputType::Keyboard, InputType::Mouse, InputType::Media}) {
-        auto *button = new MenuBtn(tr(inputTypeName(input)), m_ui->m_assignMenu);
+        auto *button = new MenuBtn(inputTypeText(input), m_ui->m_assignMenu);
         m_group->addButton(button, input);
         m_ui->m_layout->addWidget(button);
     }

@@ -73,7 +73,7 @@ MacroAdvWid::~MacroAdvWid() = default;
 void MacroAdvWid::buildShortcuts()
 {
     for (int id = 0; id < WinShortcutCount; ++id) {
-        auto *const key = new AssignKey(tr(winShortcutName(id)), m_ui->m_winWid);
+        auto *const key = new AssignKey(winShortcutText(id), m_ui->m_winWid);
         key->setToolTip(chordText(id));
         m_group->addButton(key, id);
         m_winGrid->append(key);

@@ -74,7 +74,7 @@ MacroWid::MacroWid(QWidget *parent) : QWidget(parent), m_ui(std::make_unique<Ui:
     m_ui->setupUi(this);
     colorSelection(m_ui->m_macroList);
     m_ui->m_macroList->verticalScrollBar()->setStyleSheet(scrollBarSheet());
-    m_ui->m_macroList->setAccessibleName(tr(inputTypeName(InputType::Macro)));
+    m_ui->m_macroList->setAccessibleName(inputTypeText(InputType::Macro));
     keepTextNarrow(m_ui->m_createBtn, 8);
     connect(m_ui->m_createBtn, &QPushButton::clicked, this, &MacroWid::sigCreateMacro);
     connect(m_ui->m_macroList, &MacroList::sigSelectionSettled, this, &MacroWid::slotMacroChanged);

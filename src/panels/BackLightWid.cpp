@@ -39,7 +39,7 @@ BackLightWid::BackLightWid(QWidget *parent)
     m_ui->setupUi(this);
     int number = 0;
     for (const ushort code : InputKeyLists().at(InputType::Backlight)) {
-        auto *const button = new BackLightBtn(tr(keyFunctionName(code)), m_ui->widget);
+        auto *const button = new BackLightBtn(keyFunctionText(code), m_ui->widget);
         addFunction(button, code);
         m_ui->m_layout->addWidget(button, number / 2 % 3, number % 2);
         ++number;

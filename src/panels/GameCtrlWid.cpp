@@ -64,7 +64,7 @@ void GameCtrlWid::addAll(const Codes &codes)
 
 void GameCtrlWid::add(CtrlPart *control, ushort code)
 {
-    const QString name = tr(keyFunctionName(code));
+    const QString name = keyFunctionText(code);
     control->setAccessibleName(name);
     control->setToolTip(name);
     m_group->addButton(control, code);

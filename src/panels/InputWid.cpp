@@ -33,7 +33,7 @@ InputWid::InputWid(QWidget *parent)
     m_ui->setupUi(this);
     keepTextNarrow(m_ui->label);
     for (int input = InputType::Keyboard; input <= InputType::PresetMode; ++input) {
-        auto *const button = new InputBtn(tr(inputTypeName(input)), m_ui->widget);
+        auto *const button = new InputBtn(inputTypeText(input), m_ui->widget);
         button->setCheckable(true);
         button->setStyleSheet(selectorSheet());
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

@@ -29,7 +29,7 @@ class MediaKey : public QPushButton
 public:
     MediaKey(ushort code, MediaWid *owner) : QPushButton(owner)
     {
-        const QString name = MediaWid::tr(keyFunctionName(code));
+        const QString name = keyFunctionText(code);
         setAccessibleName(name);
         setToolTip(name);
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

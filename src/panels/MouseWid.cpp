@@ -73,7 +73,7 @@ MouseWid::MouseWid(QWidget *parent)
     for (const ushort code : InputKeyLists().at(InputType::Mouse)) {
         if (std::find(HorizontalScroll.begin(), HorizontalScroll.end(), code) ==
             HorizontalScroll.end())
-            addFunction(new MouseKey(code, tr(keyFunctionName(code)), this), code);
+            addFunction(new MouseKey(code, keyFunctionText(code), this), code);
     }
     connect(group(), &ButtonGroupEx::sigButtonClicked, this, &MouseWid::slotMouseKeyClicked);
 }

@@ -35,7 +35,7 @@ PressoFunWid::PressoFunWid(QWidget *parent)
 {
     m_ui->setupUi(this);
     for (const ushort code : InputKeyLists().at(InputType::PressoFunctions)) {
-        auto *const button = new PressoKey(tr(keyFunctionName(code)), m_ui->widget);
+        auto *const button = new PressoKey(keyFunctionText(code), m_ui->widget);
         addFunction(button, code);
         m_ui->m_keyLayout->addWidget(button);
         m_ui->m_keyLayout->addStretch();

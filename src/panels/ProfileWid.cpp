@@ -17,7 +17,7 @@ ProfileWid::ProfileWid(QWidget *parent)
     m_ui->scrollArea->verticalScrollBar()->setStyleSheet(scrollBarSheet());
     for (const ushort code : InputKeyLists().at(InputType::Profile)) {
         auto *const button =
-            new QPushButton(tr(keyFunctionName(code)), m_ui->scrollAreaWidgetContents_2);
+            new QPushButton(keyFunctionText(code), m_ui->scrollAreaWidgetContents_2);
         button->setStyleSheet(functionSheet(InputType::Profile));
         addFunction(button, code);
         m_ui->m_layout->addWidget(button);

@@ -2,11 +2,17 @@
 
 #include "core/records.h"
 
-#include <QObject>
+#include <QCoreApplication>
 
 #include <algorithm>
 
 namespace {
+
+/// The empty text is the key of a translation file's own header.
+QString translated(const char *name)
+{
+    return *name ? QCoreApplication::translate("Common", name) : QString();
+}
 
 struct FunctionRow
 {
@@ -250,6 +256,18 @@ const char *appFunctionName(int appType, int funcId)
     return isKnown ? (*rows)[std::size_t(funcId)].name : QT_TRANSLATE_NOOP("Common", "UNKNOWN");
 }
 
+QString appFunctionText(int appType, int funcId)
+{
+    return translated(appFunctionName(appType, funcId));
+}
+
+QString appHintText(int appType, int funcId)
+{
+    const std::map<int, const char *> &hints = AppHints(appType);
+    const auto hint = hints.find(funcId);
+    return hint == hints.end() ? QString() : translated(hint->second);
+}
+
 const char *appTypeName(int appType)
 {
     switch (appType) {
@@ -262,6 +280,11 @@ const char *appTypeName(int appType)
     default:
         return QT_TRANSLATE_NOOP("Common", "UNKNOWN");
     }
+}
+
+QString appTypeText(int appType)
+{
+    return translated(appTypeName(appType));
 }
 
 void buildAppMacro(int appType, int funcId, vantrix_macro_record *record)

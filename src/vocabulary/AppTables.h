@@ -35,9 +35,15 @@ const std::map<int, const char *> &AppHints(int appType);
 /// Untranslated name of a function: "UNKNOWN" for an id outside 0 to 18; empty for an unknown
 /// application type.
 const char *appFunctionName(int appType, int funcId);
+/// The same in the language of the interface.
+QString appFunctionText(int appType, int funcId);
+/// The hint of a function in the language of the interface; empty for a function without one.
+QString appHintText(int appType, int funcId);
 
 /// Untranslated display name of an application, "UNKNOWN" for any other type.
 const char *appTypeName(int appType);
+/// The same in the language of the interface.
+QString appTypeText(int appType);
 
 /// Fills a macro record with the key sequence of a function: cleared first, each code pressed in
 /// order with a delay of 20 milliseconds, released in the opposite order. An unknown type or id

@@ -34,11 +34,6 @@ void setElidedText(Widget *widget, const QString &text)
     widget->setToolTip(shown == text ? QString() : text);
 }
 
-QString appFuncName(int appType, int funcId)
-{
-    return QCoreApplication::translate("Common", appFunctionName(appType, funcId));
-}
-
 /// Directions, whose pictures are arrows.
 bool hasLargeIcon(ushort code)
 {
@@ -104,17 +99,17 @@ ushort Common::ZKKeyCode(QKeyEvent *event)
 
 QString Common::PhotoshopFuncName(int funcId)
 {
-    return appFuncName(AppType::Photoshop, funcId);
+    return appFunctionText(AppType::Photoshop, funcId);
 }
 
 QString Common::PremiereProFuncName(int funcId)
 {
-    return appFuncName(AppType::PremierePro, funcId);
+    return appFunctionText(AppType::PremierePro, funcId);
 }
 
 QString Common::IllustratorFuncName(int funcId)
 {
-    return appFuncName(AppType::Illustrator, funcId);
+    return appFunctionText(AppType::Illustrator, funcId);
 }
 
 void Common::keyColorStyle(int inputType, QString &style)

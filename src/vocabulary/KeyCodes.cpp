@@ -1,10 +1,16 @@
 #include "vocabulary/KeyCodes.h"
 
-#include <QObject>
+#include <QCoreApplication>
 
 #include <algorithm>
 
 namespace {
+
+/// The empty text is the key of a translation file's own header.
+QString translated(const char *name)
+{
+    return *name ? QCoreApplication::translate("KeyCodes", name) : QString();
+}
 
 template <typename Map, typename Key>
 typename Map::mapped_type valueOr(const Map &map, Key key, typename Map::mapped_type absent)
@@ -303,6 +309,11 @@ const char *inputTypeName(int inputType)
     return valueOr(names, inputType, QT_TRANSLATE_NOOP("KeyCodes", "UNKNOWN"));
 }
 
+QString inputTypeText(int inputType)
+{
+    return translated(inputTypeName(inputType));
+}
+
 const std::map<int, std::vector<ushort>> &WinShortcutKeys()
 {
     // clang-format off
@@ -352,6 +363,11 @@ const char *winShortcutName(int shortcutId)
     };
     const bool isKnown = shortcutId >= 0 && shortcutId < WinShortcutCount;
     return isKnown ? names[std::size_t(shortcutId)] : "";
+}
+
+QString winShortcutText(int shortcutId)
+{
+    return translated(winShortcutName(shortcutId));
 }
 
 const std::map<ushort, std::vector<ushort>> &SymbolKeySequences()
@@ -587,6 +603,11 @@ const char *keyFunctionName(ushort code)
     };
     // clang-format on
     return valueOr(names, code, QT_TRANSLATE_NOOP("KeyCodes", "UNKNOWN KEY"));
+}
+
+QString keyFunctionText(ushort code)
+{
+    return translated(keyFunctionName(code));
 }
 
 int inputTypeOfCode(int keyIndex, char type, ushort code)

@@ -57,11 +57,15 @@ QColor inputColor(int inputType);
 
 /// Untranslated name of an InputType ("KEYBOARD"...); "UNKNOWN" for any other number.
 const char *inputTypeName(int inputType);
+/// The same in the language of the interface.
+QString inputTypeText(int inputType);
 
 /// Windows shortcut id (0 to 16) to the device codes it plays, in order of pressing.
 const std::map<int, std::vector<ushort>> &WinShortcutKeys();
 /// Untranslated name of a Windows shortcut; empty for an unknown id.
 const char *winShortcutName(int shortcutId);
+/// The same in the language of the interface.
+QString winShortcutText(int shortcutId);
 
 /// Pseudo code to the device codes that produce it. Its keys are the extended codes, which are
 /// never kept in a key's mapping.
@@ -73,6 +77,8 @@ bool isPowerModeCode(ushort code);
 /// Untranslated name of a device function; "UNKNOWN KEY" for a code it does not know, which
 /// includes the keys whose names are legends (1 to 103, 224 to 231).
 const char *keyFunctionName(ushort code);
+/// The same in the language of the interface.
+QString keyFunctionText(ushort code);
 
 /// InputType of a mapping: what the key shows as its state. `code` is the effective code.
 /// An index outside the pad compares with default code 0.

@@ -4,12 +4,10 @@
 #include "vocabulary/KeyCodes.h"
 #include "vocabulary/KeyLegends.h"
 
-#include <QCoreApplication>
-
 QString keyLegendOfCode(ushort code)
 {
     const int scanCode = scanOfKeyCode(code);
     if (scanCode == 0)
-        return QCoreApplication::translate("KeyCodes", keyFunctionName(code));
+        return keyFunctionText(code);
     return keyLegend(scanCode, IEnvironment::Instance()->getLanguage());
 }

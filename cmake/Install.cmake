@@ -28,6 +28,7 @@ set(VANTRIX_PUBLIC_HEADERS
     vocabulary/Presets.h
     vocabulary/Common.h
     vocabulary/KeyNames.h
+    translations/PageTranslation.h
 )
 foreach(header ${VANTRIX_PUBLIC_HEADERS})
     get_filename_component(folder ${header} DIRECTORY)

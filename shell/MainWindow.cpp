@@ -421,20 +421,28 @@ void MainWindow::openSettings()
 void MainWindow::onSettingChanged(const QString &name)
 {
     if (name == Language::settingKey()) {
-        m_context.services().environment().setLanguage(Language::of(m_context.store()));
+        const int language = Language::of(m_context.store());
+        m_context.services().environment().setLanguage(language);
+        Language::install(language);
         m_mapping->rebuild();
+        emit languageChanged();
     } else if (name == HostLocations::hotKeysFolderKey()) {
         m_mapping->rebuild();
     }
     updateState(); // an application may have been found
 }
 
-void MainWindow::closeEvent(QCloseEvent *event)
+void MainWindow::remember()
 {
     ProfileStore &store = m_context.store();
     store.setSetting(geometryKey(), QString::fromLatin1(saveGeometry().toBase64()));
     store.setSetting(profileKey(), QString::number(m_context.profile()));
     store.flush();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    remember();
     QMainWindow::closeEvent(event);
 }
 

@@ -25,6 +25,13 @@ public:
     MappingView *mappingView() const { return m_mapping; }
     ShellPage shownPage() const { return m_page; }
     QString statusText() const;
+    /// Keeps geometry and shown profile for the next window, as closing does.
+    void remember();
+
+signals:
+    /// Another language was chosen. The mapping page speaks it already; the rest of the window
+    /// does when it is made anew.
+    void languageChanged();
 
 public slots:
     void showPage(ShellPage page);

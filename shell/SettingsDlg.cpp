@@ -43,7 +43,7 @@ SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
 
     auto *form = new QFormLayout(this);
     form->setContentsMargins(16, 16, 16, 16);
-    form->addRow(tr("&Language of the keys:"), m_language);
+    form->addRow(tr("&Language:"), m_language);
     form->addRow(tr("&Hot-key catalog:"), makePathRow(m_hotKeys, [this] {
                      return QFileDialog::getExistingDirectory(this, tr("Hot-key catalog"),
                                                               m_hotKeys->text());
@@ -56,7 +56,7 @@ SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
         edit->setText(path);
         edit->setPlaceholderText(tr("not found"));
         m_apps[std::size_t(type)] = edit;
-        form->addRow(tr(appTypeName(type)) + QLatin1Char(':'), makePathRow(edit, [this, edit] {
+        form->addRow(appTypeText(type) + QLatin1Char(':'), makePathRow(edit, [this, edit] {
                          return Modal::openFileName(this, tr("Program"), edit->text(), QString());
                      }));
     }

@@ -8,7 +8,7 @@ class QComboBox;
 class QLineEdit;
 class QSpinBox;
 
-/// The settings: keyboard language, folder of the hot-key catalog, paths of the applications, and
+/// The settings: language, folder of the hot-key catalog, paths of the applications, and
 /// how many keys of a profile may hold macros. Nothing changes before OK.
 class SettingsDlg : public QDialog
 {

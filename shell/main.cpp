@@ -15,6 +15,9 @@
 
 namespace {
 
+/// What the event loop returns when the window is to be made anew.
+constexpr int AgainCode = -1;
+
 /// What was asked for on the command line.
 struct Options
 {
@@ -62,13 +65,12 @@ bool choosePlatform(int argc, char **argv)
 Options readOptions(bool isHeadless)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QCoreApplication::translate("main", "Says what each key of the pad does."));
+    parser.setApplicationDescription(QStringLiteral("Says what each key of the pad does."));
     parser.addHelpOption();
     parser.addVersionOption();
     const auto option = [&parser](const char *name, const char *text, const char *value = "") {
-        parser.addOption(QCommandLineOption(
-            QLatin1String(name), QCoreApplication::translate("main", text), QLatin1String(value)));
+        parser.addOption(
+            QCommandLineOption(QLatin1String(name), QLatin1String(text), QLatin1String(value)));
     };
     option("headless", "Walk the whole road without a display: assign B to key 7 of a profile, "
                        "apply, and print what the device received. Works on a data folder of its "
@@ -76,7 +78,7 @@ Options readOptions(bool isHeadless)
     option("screenshot", "With --headless: save the picture of the page.", "file.png");
     option("data", "Keep everything in this folder instead of the user's.", "folder");
     option("profile", "Show this profile, 1 to 24.", "number");
-    option("language", "Language of the keys, by name or by number from 0.", "language");
+    option("language", "Language of the interface, by name or by number from 0.", "language");
     option("print-profile", "Print what store and device have of the profile, and leave.");
     parser.process(*qApp);
 
@@ -111,10 +113,17 @@ void writeMessage(QtMsgType type, const QMessageLogContext &context, const QStri
         std::abort();
 }
 
+/// Until the store says which language was chosen.
+void setFirstLanguage(const Options &options)
+{
+    Language::install(options.language >= 0 ? options.language : Language::ofSystem());
+}
+
 void setLanguage(HostServices &services, const Options &options)
 {
     const int language = options.language >= 0 ? options.language : Language::of(services.store());
     services.environment().setLanguage(language);
+    Language::install(language);
 }
 
 int runHeadless(Options options)
@@ -124,6 +133,7 @@ int runHeadless(Options options)
     QTemporaryDir folder;
     if (options.dataFolder.isEmpty() && !options.isPrinting)
         options.dataFolder = folder.path();
+    setFirstLanguage(options);
     HostServices services(options.dataFolder);
     err << "Data folder: " << services.locations().dataFolder() << '\n';
     setLanguage(services, options);
@@ -137,16 +147,32 @@ int runHeadless(Options options)
     return Headless::walk(services, {profile, options.screenshot}, out, err);
 }
 
+/// Shows the window until it is closed, or until it is to be made anew.
+int showWindow(ShellContext &context, int profile)
+{
+    MainWindow window(context);
+    QObject::connect(
+        &window, &MainWindow::languageChanged, &window, [] { QApplication::exit(AgainCode); },
+        Qt::QueuedConnection);
+    if (profile >= 0)
+        emit context.goTo(profile, NoKey);
+    window.show();
+    const int code = QApplication::exec();
+    if (code == AgainCode)
+        window.remember();
+    return code;
+}
+
 int runWindow(const Options &options)
 {
+    setFirstLanguage(options);
     HostServices services(options.dataFolder);
     setLanguage(services, options);
     ShellContext context(services);
-    MainWindow window(context);
-    if (options.profile >= 0)
-        emit context.goTo(options.profile, NoKey);
-    window.show();
-    return QApplication::exec();
+    int code = showWindow(context, options.profile);
+    while (code == AgainCode)
+        code = showWindow(context, -1);
+    return code;
 }
 
 } // namespace

@@ -22,6 +22,15 @@ const std::map<QString, int> &LanguageIndex()
     return indices;
 }
 
+QString languageName(int language)
+{
+    for (const auto &[name, index] : LanguageIndex()) {
+        if (index == language)
+            return name;
+    }
+    return QString();
+}
+
 const std::map<int, std::array<const char *, LanguageCount>> &KeyLegends()
 {
     // clang-format off

@@ -12,6 +12,8 @@ constexpr int LanguageCount = 15;
 
 /// Language name to the index that IEnvironment::getLanguage returns, 0 to 14.
 const std::map<QString, int> &LanguageIndex();
+/// Name of a language in LanguageIndex; empty for a number outside 0 to 14.
+QString languageName(int language);
 
 /// Scan code (as in ScanToKeyCode, 110 rows) to one UTF-8 legend per language; null: none.
 /// A legend may hold a line break and runs of four blanks; a double ampersand is one ampersand.

@@ -1,5 +1,6 @@
 #include "XGestures.h"
 #include "core/VantrixMapWid.h"
+#include "shell/Language.h"
 #include "shell/MainWindow.h"
 #include "shell/MappingView.h"
 #include "shell/PadView.h"
@@ -90,6 +91,7 @@ void tst_ShellRoads::init()
 void tst_ShellRoads::cleanup()
 {
     close();
+    Language::install(Language::parse(QStringLiteral("English")));
 }
 
 void tst_ShellRoads::open()

@@ -487,10 +487,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>DUPLICATE</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>RENAME</source>
         <translation type="unfinished"></translation>
     </message>
@@ -668,6 +664,18 @@ Press keys. To finish, press Esc twice or click STOP.</source>
 Press keys. To finish, press Esc twice or click STOP.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>COPY</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make another macro with the same events</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chosen events:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>
@@ -816,6 +824,18 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     </message>
     <message>
         <source> (read only)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click a key of the pad, then choose what it does.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CHECK %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CHECK</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

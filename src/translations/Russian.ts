@@ -5,415 +5,419 @@
     <name>ActionAssignUi</name>
     <message>
         <source>BACK</source>
-        <translation type="unfinished"></translation>
+        <translation>НАЗАД</translation>
     </message>
     <message>
         <source>APPLY</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРИМЕНИТЬ</translation>
     </message>
 </context>
 <context>
     <name>ActionBtn</name>
     <message>
         <source>ACTION</source>
-        <translation type="unfinished"></translation>
+        <translation>ДЕЙСТВИЕ</translation>
     </message>
 </context>
 <context>
     <name>ActionWid</name>
     <message>
         <source>ACTION</source>
-        <translation type="unfinished"></translation>
+        <translation>ДЕЙСТВИЕ</translation>
     </message>
 </context>
 <context>
     <name>AdvAssignWid</name>
     <message>
         <source>CTRL LEFT</source>
-        <translation type="unfinished"></translation>
+        <translation>ЛЕВЫЙ CTRL</translation>
     </message>
     <message>
         <source>SHIFT LEFT</source>
-        <translation type="unfinished"></translation>
+        <translation>ЛЕВЫЙ SHIFT</translation>
     </message>
     <message>
         <source>ALT LEFT</source>
-        <translation type="unfinished"></translation>
+        <translation>ЛЕВЫЙ ALT</translation>
     </message>
     <message>
         <source>CTRL RIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРАВЫЙ CTRL</translation>
     </message>
     <message>
         <source>SHIFT RIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРАВЫЙ SHIFT</translation>
     </message>
     <message>
         <source>ALT RIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРАВЫЙ ALT</translation>
     </message>
 </context>
 <context>
     <name>AppPathDlg</name>
     <message>
         <source>APPLICATION</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРИЛОЖЕНИЕ</translation>
     </message>
     <message>
         <source>CLOSE</source>
-        <translation type="unfinished"></translation>
+        <translation>ЗАКРЫТЬ</translation>
     </message>
     <message>
         <source>PATH</source>
-        <translation type="unfinished"></translation>
+        <translation>ПУТЬ</translation>
     </message>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть файл</translation>
     </message>
     <message>
         <source>CANCEL</source>
-        <translation type="unfinished"></translation>
+        <translation>ОТМЕНА</translation>
     </message>
     <message>
         <source>APPLY</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРИМЕНИТЬ</translation>
     </message>
 </context>
 <context>
     <name>ApplicationBtn</name>
     <message>
         <source>Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть файл</translation>
     </message>
 </context>
 <context>
     <name>AssignMenuUi</name>
     <message>
         <source>REASSIGN KEY</source>
-        <translation type="unfinished"></translation>
+        <translation>ПЕРЕНАЗНАЧИТЬ</translation>
     </message>
     <message>
         <source>CONTROLLER MAPPING MODE</source>
-        <translation type="unfinished"></translation>
+        <translation>РЕЖИМ ГЕЙМПАДА</translation>
     </message>
     <message>
         <source>DUAL ACTION MAPPING MODE</source>
-        <translation type="unfinished"></translation>
+        <translation>РЕЖИМ ДВОЙНОГО ДЕЙСТВИЯ</translation>
     </message>
     <message>
         <source>CLEAR KEY ASSIGNMENT</source>
-        <translation type="unfinished"></translation>
+        <translation>УБРАТЬ НАЗНАЧЕНИЕ</translation>
     </message>
     <message>
         <source>DISABLE KEY</source>
-        <translation type="unfinished"></translation>
+        <translation>ОТКЛЮЧИТЬ КЛАВИШУ</translation>
     </message>
 </context>
 <context>
     <name>AssignWid</name>
     <message>
         <source>warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Предупреждение</translation>
     </message>
     <message>
         <source>Macro assign has reached maximum limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Достигнуто предельное число назначенных макросов</translation>
     </message>
     <message>
         <source>Fail to find the path of the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось найти путь к программе.</translation>
     </message>
     <message>
         <source>Please assign it manually:</source>
-        <translation type="unfinished"></translation>
+        <translation>Укажите его вручную:</translation>
     </message>
 </context>
 <context>
     <name>BackLightUi</name>
     <message>
         <source>BACKLIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>ПОДСВЕТКА</translation>
     </message>
 </context>
 <context>
     <name>Common</name>
     <message>
         <source>A1</source>
-        <translation type="unfinished"></translation>
+        <translation>A1</translation>
     </message>
     <message>
         <source>A2</source>
-        <translation type="unfinished"></translation>
+        <translation>A2</translation>
     </message>
     <message>
         <source>A3</source>
-        <translation type="unfinished"></translation>
+        <translation>A3</translation>
     </message>
     <message>
         <source>BLUR</source>
-        <translation type="unfinished"></translation>
+        <translation>РАЗМЫТИЕ</translation>
     </message>
     <message>
         <source>BRUSH SIZE</source>
-        <translation type="unfinished"></translation>
+        <translation>РАЗМЕР КИСТИ</translation>
     </message>
     <message>
         <source>BRUSH HARDNESS</source>
-        <translation type="unfinished"></translation>
+        <translation>ЖЁСТКОСТЬ КИСТИ</translation>
     </message>
     <message>
         <source>CROP</source>
-        <translation type="unfinished"></translation>
+        <translation>РАМКА</translation>
     </message>
     <message>
         <source>CLONE STAMP</source>
-        <translation type="unfinished"></translation>
+        <translation>ШТАМП</translation>
     </message>
     <message>
         <source>DODGE</source>
-        <translation type="unfinished"></translation>
+        <translation>ОСВЕТЛИТЕЛЬ</translation>
     </message>
     <message>
         <source>EYEDROP</source>
-        <translation type="unfinished"></translation>
+        <translation>ПИПЕТКА</translation>
     </message>
     <message>
         <source>LASSO</source>
-        <translation type="unfinished"></translation>
+        <translation>ЛАССО</translation>
     </message>
     <message>
         <source>LAUNCH PS</source>
-        <translation type="unfinished"></translation>
+        <translation>ЗАПУСТИТЬ PS</translation>
     </message>
     <message>
         <source>MOVE</source>
-        <translation type="unfinished"></translation>
+        <translation>ПЕРЕМЕЩЕНИЕ</translation>
     </message>
     <message>
         <source>RECTANGULAR MARQUEE</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРЯМОУГОЛЬНАЯ ОБЛАСТЬ</translation>
     </message>
     <message>
         <source>MAGNIFYING</source>
-        <translation type="unfinished"></translation>
+        <translation>МАСШТАБ</translation>
     </message>
     <message>
         <source>PEN</source>
-        <translation type="unfinished"></translation>
+        <translation>ПЕРО</translation>
     </message>
     <message>
         <source>POINTER</source>
-        <translation type="unfinished"></translation>
+        <translation>УКАЗАТЕЛЬ</translation>
     </message>
     <message>
         <source>QUICK SELECTION</source>
-        <translation type="unfinished"></translation>
+        <translation>БЫСТРОЕ ВЫДЕЛЕНИЕ</translation>
     </message>
     <message>
         <source>TEXT</source>
-        <translation type="unfinished"></translation>
+        <translation>ТЕКСТ</translation>
     </message>
     <message>
         <source>BACKWARD</source>
-        <translation type="unfinished"></translation>
+        <translation>НАЗАД</translation>
     </message>
     <message>
         <source>COMPARISON</source>
-        <translation type="unfinished"></translation>
+        <translation>СРАВНЕНИЕ</translation>
     </message>
     <message>
         <source>FORWARD</source>
-        <translation type="unfinished"></translation>
+        <translation>ВПЕРЁД</translation>
     </message>
     <message>
         <source>GO TO IN</source>
-        <translation type="unfinished"></translation>
+        <translation>К ТОЧКЕ ВХОДА</translation>
     </message>
     <message>
         <source>GO TO OUT</source>
-        <translation type="unfinished"></translation>
+        <translation>К ТОЧКЕ ВЫХОДА</translation>
     </message>
     <message>
         <source>HAND</source>
-        <translation type="unfinished"></translation>
+        <translation>РУКА</translation>
     </message>
     <message>
         <source>LAUNCH PR</source>
-        <translation type="unfinished"></translation>
+        <translation>ЗАПУСТИТЬ PR</translation>
     </message>
     <message>
         <source>MARK IN</source>
-        <translation type="unfinished"></translation>
+        <translation>ОТМЕТИТЬ ВХОД</translation>
     </message>
     <message>
         <source>MARK OUT</source>
-        <translation type="unfinished"></translation>
+        <translation>ОТМЕТИТЬ ВЫХОД</translation>
     </message>
     <message>
         <source>PLAY-STOP TOGGLE</source>
-        <translation type="unfinished"></translation>
+        <translation>ПУСК/СТОП</translation>
     </message>
     <message>
         <source>RAZOR</source>
-        <translation type="unfinished"></translation>
+        <translation>ПОДРЕЗКА</translation>
     </message>
     <message>
         <source>RIPPLE EDIT</source>
-        <translation type="unfinished"></translation>
+        <translation>МОНТАЖ СО СДВИГОМ</translation>
     </message>
     <message>
         <source>SLIP</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОКРУТКА</translation>
     </message>
     <message>
         <source>STEP BACK 1 FRAME</source>
-        <translation type="unfinished"></translation>
+        <translation>НА 1 КАДР НАЗАД</translation>
     </message>
     <message>
         <source>STEP FORWARD 1 FRAME</source>
-        <translation type="unfinished"></translation>
+        <translation>НА 1 КАДР ВПЕРЁД</translation>
     </message>
     <message>
         <source>SELECTION</source>
-        <translation type="unfinished"></translation>
+        <translation>ВЫДЕЛЕНИЕ</translation>
     </message>
     <message>
         <source>TRACK SELECT FORWARD</source>
-        <translation type="unfinished"></translation>
+        <translation>ВЫБОР ДОРОЖКИ ВПЕРЁД</translation>
     </message>
     <message>
         <source>ARTBOARD</source>
-        <translation type="unfinished"></translation>
+        <translation>МОНТАЖНАЯ ОБЛАСТЬ</translation>
     </message>
     <message>
         <source>BRUSH OPACITY</source>
-        <translation type="unfinished"></translation>
+        <translation>НЕПРОЗРАЧНОСТЬ КИСТИ</translation>
     </message>
     <message>
         <source>DIRECT SELECTION</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРЯМОЕ ВЫДЕЛЕНИЕ</translation>
     </message>
     <message>
         <source>ELLIPSE</source>
-        <translation type="unfinished"></translation>
+        <translation>ЭЛЛИПС</translation>
     </message>
     <message>
         <source>LAUNCH AI</source>
-        <translation type="unfinished"></translation>
+        <translation>ЗАПУСТИТЬ AI</translation>
     </message>
     <message>
         <source>POLYGON</source>
-        <translation type="unfinished"></translation>
+        <translation>МНОГОУГОЛЬНИК</translation>
     </message>
     <message>
         <source>ROTATE</source>
-        <translation type="unfinished"></translation>
+        <translation>ПОВОРОТ</translation>
     </message>
     <message>
         <source>RECTANGLE</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРЯМОУГОЛЬНИК</translation>
     </message>
     <message>
         <source>ROUNDED RECTANGLE</source>
-        <translation type="unfinished"></translation>
+        <translation>СКРУГЛЁННЫЙ ПРЯМОУГОЛЬНИК</translation>
     </message>
     <message>
         <source>Play Action 1. Please assign F2 to an Action in Photoshop</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполнить операцию 1. Назначьте F2 операции в Photoshop</translation>
     </message>
     <message>
         <source>Play Action 2. Please assign F3 to an Action in Photoshop</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполнить операцию 2. Назначьте F3 операции в Photoshop</translation>
     </message>
     <message>
         <source>Play Action 3. Please assign F4 to an Action in Photoshop</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполнить операцию 3. Назначьте F4 операции в Photoshop</translation>
     </message>
     <message>
         <source>To use Presso(Pressure Sensitive) Blur,
 please assign N to Blur Tool in Photoshop(Alt+Shift+Ctrl+K)</source>
-        <translation type="unfinished"></translation>
+        <translation>Чтобы размытие зависело от силы нажатия (Presso),
+назначьте N инструменту «Размытие» в Photoshop (Alt+Shift+Ctrl+K)</translation>
     </message>
     <message>
         <source>COMPARISON
 Please assign F2 to Comparison Tool in Premiere Pro(Ctrl+Alt+K)</source>
-        <translation type="unfinished"></translation>
+        <translation>СРАВНЕНИЕ
+Назначьте F2 виду сравнения в Premiere Pro (Ctrl+Alt+K)</translation>
     </message>
     <message>
         <source>Play Action 1. Please assign F2 to an Action in Illustrator</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполнить операцию 1. Назначьте F2 операции в Illustrator</translation>
     </message>
     <message>
         <source>Play Action 2. Please assign F3 to an Action in Illustrator</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполнить операцию 2. Назначьте F3 операции в Illustrator</translation>
     </message>
     <message>
         <source>Play Action 3. Please assign F4 to an Action in Illustrator</source>
-        <translation type="unfinished"></translation>
+        <translation>Выполнить операцию 3. Назначьте F4 операции в Illustrator</translation>
     </message>
     <message>
         <source>POLYGON
 Please assign 2 to Polygon Tool in Illustrator(Alt+Shift+Ctrl+K)</source>
-        <translation type="unfinished"></translation>
+        <translation>МНОГОУГОЛЬНИК
+Назначьте 2 инструменту «Многоугольник» в Illustrator (Alt+Shift+Ctrl+K)</translation>
     </message>
     <message>
         <source>ROUNDED RECTANGLE
 Please assign 1 to Rounded Rectangle Tool in Illustrator(Alt+Shift+Ctrl+K)</source>
-        <translation type="unfinished"></translation>
+        <translation>СКРУГЛЁННЫЙ ПРЯМОУГОЛЬНИК
+Назначьте 1 инструменту «Прямоугольник со скруглёнными углами» в Illustrator (Alt+Shift+Ctrl+K)</translation>
     </message>
     <message>
         <source>UNKNOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>НЕИЗВЕСТНО</translation>
     </message>
     <message>
         <source>PHOTOSHOP</source>
-        <translation type="unfinished"></translation>
+        <translation>PHOTOSHOP</translation>
     </message>
     <message>
         <source>PREMIERE PRO</source>
-        <translation type="unfinished"></translation>
+        <translation>PREMIERE PRO</translation>
     </message>
     <message>
         <source>ILLUSTRATOR</source>
-        <translation type="unfinished"></translation>
+        <translation>ILLUSTRATOR</translation>
     </message>
 </context>
 <context>
     <name>DualActionAdvUi</name>
     <message>
         <source>ACTION 1</source>
-        <translation type="unfinished"></translation>
+        <translation>ДЕЙСТВИЕ 1</translation>
     </message>
     <message>
         <source>ACTION 2</source>
-        <translation type="unfinished"></translation>
+        <translation>ДЕЙСТВИЕ 2</translation>
     </message>
     <message>
         <source>TYPE</source>
-        <translation type="unfinished"></translation>
+        <translation>ТИП</translation>
     </message>
 </context>
 <context>
     <name>DualActionDistUi</name>
     <message>
         <source>ACTIVATION DISTANCE</source>
-        <translation type="unfinished"></translation>
+        <translation>ГЛУБИНА СРАБАТЫВАНИЯ</translation>
     </message>
     <message>
         <source>TRAVEL</source>
-        <translation type="unfinished"></translation>
+        <translation>ХОД</translation>
     </message>
 </context>
 <context>
     <name>DualActionTipWid</name>
     <message>
         <source>ACTION1</source>
-        <translation type="unfinished"></translation>
+        <translation>ДЕЙСТВИЕ1</translation>
     </message>
     <message>
         <source>ACTION2</source>
-        <translation type="unfinished"></translation>
+        <translation>ДЕЙСТВИЕ2</translation>
     </message>
 </context>
 <context>
@@ -421,983 +425,986 @@ Please assign 1 to Rounded Rectangle Tool in Illustrator(Alt+Shift+Ctrl+K)</sour
     <message>
         <source>NORMAL
 (ACTION1 &gt; ACTION2)</source>
-        <translation type="unfinished"></translation>
+        <translation>ОБЫЧНЫЙ
+(ДЕЙСТВИЕ1 &gt; ДЕЙСТВИЕ2)</translation>
     </message>
     <message>
         <source>TOGGLE
 (ACTION1 &gt; ACTION2 &gt; ACTION1)</source>
-        <translation type="unfinished"></translation>
+        <translation>ПЕРЕКЛЮЧЕНИЕ
+(ДЕЙСТВИЕ1 &gt; ДЕЙСТВИЕ2 &gt; ДЕЙСТВИЕ1)</translation>
     </message>
     <message>
         <source>COMBINE
 (ACTION1 &gt; ACTION1 + ACTION2)</source>
-        <translation type="unfinished"></translation>
+        <translation>СОЧЕТАНИЕ
+(ДЕЙСТВИЕ1 &gt; ДЕЙСТВИЕ1 + ДЕЙСТВИЕ2)</translation>
     </message>
 </context>
 <context>
     <name>GameCtrlWid</name>
     <message>
         <source>L</source>
-        <translation type="unfinished"></translation>
+        <translation>L</translation>
     </message>
     <message>
         <source>R</source>
-        <translation type="unfinished"></translation>
+        <translation>R</translation>
     </message>
 </context>
 <context>
     <name>InputUi</name>
     <message>
         <source>MAPPING INPUT</source>
-        <translation type="unfinished"></translation>
+        <translation>ВИД ВВОДА</translation>
     </message>
 </context>
 <context>
     <name>KeyCodes</name>
     <message>
         <source>KEYBOARD</source>
-        <translation type="unfinished"></translation>
+        <translation>КЛАВИАТУРА</translation>
     </message>
     <message>
         <source>MOUSE</source>
-        <translation type="unfinished"></translation>
+        <translation>МЫШЬ</translation>
     </message>
     <message>
         <source>MEDIA</source>
-        <translation type="unfinished"></translation>
+        <translation>МЕДИА</translation>
     </message>
     <message>
         <source>MACRO</source>
-        <translation type="unfinished"></translation>
+        <translation>МАКРОС</translation>
     </message>
     <message>
         <source>GAME CONTROLLER</source>
-        <translation type="unfinished"></translation>
+        <translation>ГЕЙМПАД</translation>
     </message>
     <message>
         <source>APPLICATION</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРИЛОЖЕНИЕ</translation>
     </message>
     <message>
         <source>DUAL ACTION</source>
-        <translation type="unfinished"></translation>
+        <translation>ДВОЙНОЕ ДЕЙСТВИЕ</translation>
     </message>
     <message>
         <source>PRESSO FUNCTIONS</source>
-        <translation type="unfinished"></translation>
+        <translation>ФУНКЦИИ PRESSO</translation>
     </message>
     <message>
         <source>BACKLIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>ПОДСВЕТКА</translation>
     </message>
     <message>
         <source>PROFILE</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ</translation>
     </message>
     <message>
         <source>PRESET MODE</source>
-        <translation type="unfinished"></translation>
+        <translation>ЗАГОТОВКИ</translation>
     </message>
     <message>
         <source>DISABLED</source>
-        <translation type="unfinished"></translation>
+        <translation>ОТКЛЮЧЕНА</translation>
     </message>
     <message>
         <source>UNASSIGNED</source>
-        <translation type="unfinished"></translation>
+        <translation>НЕ НАЗНАЧЕНА</translation>
     </message>
     <message>
         <source>UNKNOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>НЕИЗВЕСТНО</translation>
     </message>
     <message>
         <source>OPEN TASK MANAGER</source>
-        <translation type="unfinished"></translation>
+        <translation>ОТКРЫТЬ ДИСПЕТЧЕР ЗАДАЧ</translation>
     </message>
     <message>
         <source>SWITCH BETWEEN OPEN APPS</source>
-        <translation type="unfinished"></translation>
+        <translation>ПЕРЕКЛЮЧИТЬ ОТКРЫТЫЕ ПРИЛОЖЕНИЯ</translation>
     </message>
     <message>
         <source>BROWSER BACKWARD</source>
-        <translation type="unfinished"></translation>
+        <translation>НАЗАД В БРАУЗЕРЕ</translation>
     </message>
     <message>
         <source>BROWSER FORWARD</source>
-        <translation type="unfinished"></translation>
+        <translation>ВПЕРЁД В БРАУЗЕРЕ</translation>
     </message>
     <message>
         <source>MOVE UP ONE SCREEN</source>
-        <translation type="unfinished"></translation>
+        <translation>НА ЭКРАН ВВЕРХ</translation>
     </message>
     <message>
         <source>MOVE DOWN ONE SCREEN</source>
-        <translation type="unfinished"></translation>
+        <translation>НА ЭКРАН ВНИЗ</translation>
     </message>
     <message>
         <source>VIEW OPEN APPS</source>
-        <translation type="unfinished"></translation>
+        <translation>ПОКАЗАТЬ ОТКРЫТЫЕ ПРИЛОЖЕНИЯ</translation>
     </message>
     <message>
         <source>COPY SELECTED ITEMS TO CLIPBOARD</source>
-        <translation type="unfinished"></translation>
+        <translation>СКОПИРОВАТЬ ВЫДЕЛЕННОЕ В БУФЕР ОБМЕНА</translation>
     </message>
     <message>
         <source>CUT SELECTED ITEMS</source>
-        <translation type="unfinished"></translation>
+        <translation>ВЫРЕЗАТЬ ВЫДЕЛЕННОЕ</translation>
     </message>
     <message>
         <source>PASTE CONTENT FROM CLIPBOARD</source>
-        <translation type="unfinished"></translation>
+        <translation>ВСТАВИТЬ ИЗ БУФЕРА ОБМЕНА</translation>
     </message>
     <message>
         <source>SELECT ALL CONTENT</source>
-        <translation type="unfinished"></translation>
+        <translation>ВЫДЕЛИТЬ ВСЁ</translation>
     </message>
     <message>
         <source>UNDO AN ACTION</source>
-        <translation type="unfinished"></translation>
+        <translation>ОТМЕНИТЬ ДЕЙСТВИЕ</translation>
     </message>
     <message>
         <source>REDO AN ACTION</source>
-        <translation type="unfinished"></translation>
+        <translation>ПОВТОРИТЬ ДЕЙСТВИЕ</translation>
     </message>
     <message>
         <source>DELETE THE SELECTED ITEM AND MOVE IT TO THE RECYCLE BIN</source>
-        <translation type="unfinished"></translation>
+        <translation>УДАЛИТЬ ВЫДЕЛЕННЫЙ ЭЛЕМЕНТ В КОРЗИНУ</translation>
     </message>
     <message>
         <source>OPEN THE START MENU</source>
-        <translation type="unfinished"></translation>
+        <translation>ОТКРЫТЬ МЕНЮ «ПУСК»</translation>
     </message>
     <message>
         <source>SWITCH THE KEYBOARD LAYOUT</source>
-        <translation type="unfinished"></translation>
+        <translation>СМЕНИТЬ РАСКЛАДКУ КЛАВИАТУРЫ</translation>
     </message>
     <message>
         <source>CLOSE ACTIVE WINDOW</source>
-        <translation type="unfinished"></translation>
+        <translation>ЗАКРЫТЬ АКТИВНОЕ ОКНО</translation>
     </message>
     <message>
         <source>DISABLE</source>
-        <translation type="unfinished"></translation>
+        <translation>ОТКЛЮЧИТЬ</translation>
     </message>
     <message>
         <source>F13</source>
-        <translation type="unfinished"></translation>
+        <translation>F13</translation>
     </message>
     <message>
         <source>F14</source>
-        <translation type="unfinished"></translation>
+        <translation>F14</translation>
     </message>
     <message>
         <source>F15</source>
-        <translation type="unfinished"></translation>
+        <translation>F15</translation>
     </message>
     <message>
         <source>F16</source>
-        <translation type="unfinished"></translation>
+        <translation>F16</translation>
     </message>
     <message>
         <source>F17</source>
-        <translation type="unfinished"></translation>
+        <translation>F17</translation>
     </message>
     <message>
         <source>F18</source>
-        <translation type="unfinished"></translation>
+        <translation>F18</translation>
     </message>
     <message>
         <source>F19</source>
-        <translation type="unfinished"></translation>
+        <translation>F19</translation>
     </message>
     <message>
         <source>F20</source>
-        <translation type="unfinished"></translation>
+        <translation>F20</translation>
     </message>
     <message>
         <source>F21</source>
-        <translation type="unfinished"></translation>
+        <translation>F21</translation>
     </message>
     <message>
         <source>F22</source>
-        <translation type="unfinished"></translation>
+        <translation>F22</translation>
     </message>
     <message>
         <source>F23</source>
-        <translation type="unfinished"></translation>
+        <translation>F23</translation>
     </message>
     <message>
         <source>F24</source>
-        <translation type="unfinished"></translation>
+        <translation>F24</translation>
     </message>
     <message>
         <source>00</source>
-        <translation type="unfinished"></translation>
+        <translation>00</translation>
     </message>
     <message>
         <source>=</source>
-        <translation type="unfinished"></translation>
+        <translation>=</translation>
     </message>
     <message>
         <source>EFFECT CYCLE+</source>
-        <translation type="unfinished"></translation>
+        <translation>СЛЕДУЮЩИЙ ЭФФЕКТ+</translation>
     </message>
     <message>
         <source>Power Mode:Disable</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим питания:Выключен</translation>
     </message>
     <message>
         <source>Power Mode:Working</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим питания:Работа</translation>
     </message>
     <message>
         <source>Power Mode:Performance</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим питания:Производительность</translation>
     </message>
     <message>
         <source>Power Mode:Gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим питания:Игра</translation>
     </message>
     <message>
         <source>LED DARKER-</source>
-        <translation type="unfinished"></translation>
+        <translation>ПОДСВЕТКА ТЕМНЕЕ-</translation>
     </message>
     <message>
         <source>LED BRIGHTER+</source>
-        <translation type="unfinished"></translation>
+        <translation>ПОДСВЕТКА ЯРЧЕ+</translation>
     </message>
     <message>
         <source>L TRIGGER</source>
-        <translation type="unfinished"></translation>
+        <translation>ЛЕВЫЙ КУРОК</translation>
     </message>
     <message>
         <source>R TRIGGER</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРАВЫЙ КУРОК</translation>
     </message>
     <message>
         <source>E-MAIL</source>
-        <translation type="unfinished"></translation>
+        <translation>ПОЧТА</translation>
     </message>
     <message>
         <source>CALCULATOR</source>
-        <translation type="unfinished"></translation>
+        <translation>КАЛЬКУЛЯТОР</translation>
     </message>
     <message>
         <source>PLAY/PAUSE</source>
-        <translation type="unfinished"></translation>
+        <translation>ПУСК/ПАУЗА</translation>
     </message>
     <message>
         <source>STOP</source>
-        <translation type="unfinished"></translation>
+        <translation>СТОП</translation>
     </message>
     <message>
         <source>PREVIOUS TRACK</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРЕДЫДУЩИЙ ТРЕК</translation>
     </message>
     <message>
         <source>NEXT TRACK</source>
-        <translation type="unfinished"></translation>
+        <translation>СЛЕДУЮЩИЙ ТРЕК</translation>
     </message>
     <message>
         <source>VOLUME MUTE/UNMUTE</source>
-        <translation type="unfinished"></translation>
+        <translation>ВЫКЛ./ВКЛ. ЗВУК</translation>
     </message>
     <message>
         <source>VOLUME DOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>ТИШЕ</translation>
     </message>
     <message>
         <source>VOLUME UP</source>
-        <translation type="unfinished"></translation>
+        <translation>ГРОМЧЕ</translation>
     </message>
     <message>
         <source>WEB BROWSER</source>
-        <translation type="unfinished"></translation>
+        <translation>БРАУЗЕР</translation>
     </message>
     <message>
         <source>CALIBRATE</source>
-        <translation type="unfinished"></translation>
+        <translation>КАЛИБРОВКА</translation>
     </message>
     <message>
         <source>EFFECT CYCLE-</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРЕДЫДУЩИЙ ЭФФЕКТ-</translation>
     </message>
     <message>
         <source>SPEED DOWN LED EFFECT-</source>
-        <translation type="unfinished"></translation>
+        <translation>ЭФФЕКТ МЕДЛЕННЕЕ-</translation>
     </message>
     <message>
         <source>SPEED UP LED EFFECT+</source>
-        <translation type="unfinished"></translation>
+        <translation>ЭФФЕКТ БЫСТРЕЕ+</translation>
     </message>
     <message>
         <source>D PAD UP RIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>КРЕСТОВИНА ВВЕРХ-ВПРАВО</translation>
     </message>
     <message>
         <source>D PAD DOWN RIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>КРЕСТОВИНА ВНИЗ-ВПРАВО</translation>
     </message>
     <message>
         <source>D PAD DOWN LEFT</source>
-        <translation type="unfinished"></translation>
+        <translation>КРЕСТОВИНА ВНИЗ-ВЛЕВО</translation>
     </message>
     <message>
         <source>D PAD UP LEFT</source>
-        <translation type="unfinished"></translation>
+        <translation>КРЕСТОВИНА ВВЕРХ-ВЛЕВО</translation>
     </message>
     <message>
         <source>D PAD UP</source>
-        <translation type="unfinished"></translation>
+        <translation>КРЕСТОВИНА ВВЕРХ</translation>
     </message>
     <message>
         <source>D PAD DOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>КРЕСТОВИНА ВНИЗ</translation>
     </message>
     <message>
         <source>D PAD LEFT</source>
-        <translation type="unfinished"></translation>
+        <translation>КРЕСТОВИНА ВЛЕВО</translation>
     </message>
     <message>
         <source>D PAD RIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>КРЕСТОВИНА ВПРАВО</translation>
     </message>
     <message>
         <source>A BUTTON</source>
-        <translation type="unfinished"></translation>
+        <translation>КНОПКА A</translation>
     </message>
     <message>
         <source>B BUTTON</source>
-        <translation type="unfinished"></translation>
+        <translation>КНОПКА B</translation>
     </message>
     <message>
         <source>X BUTTON</source>
-        <translation type="unfinished"></translation>
+        <translation>КНОПКА X</translation>
     </message>
     <message>
         <source>Y BUTTON</source>
-        <translation type="unfinished"></translation>
+        <translation>КНОПКА Y</translation>
     </message>
     <message>
         <source>L BUMPER</source>
-        <translation type="unfinished"></translation>
+        <translation>ЛЕВЫЙ БАМПЕР</translation>
     </message>
     <message>
         <source>R BUMPER</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРАВЫЙ БАМПЕР</translation>
     </message>
     <message>
         <source>GUIDE BUTTON</source>
-        <translation type="unfinished"></translation>
+        <translation>КНОПКА GUIDE</translation>
     </message>
     <message>
         <source>START BUTTON</source>
-        <translation type="unfinished"></translation>
+        <translation>КНОПКА START</translation>
     </message>
     <message>
         <source>HOME BUTTON</source>
-        <translation type="unfinished"></translation>
+        <translation>КНОПКА HOME</translation>
     </message>
     <message>
         <source>L STICK PRESS</source>
-        <translation type="unfinished"></translation>
+        <translation>НАЖАТИЕ Л. СТИКА</translation>
     </message>
     <message>
         <source>R STICK PRESS</source>
-        <translation type="unfinished"></translation>
+        <translation>НАЖАТИЕ П. СТИКА</translation>
     </message>
     <message>
         <source>L STICK LEFT</source>
-        <translation type="unfinished"></translation>
+        <translation>Л. СТИК ВЛЕВО</translation>
     </message>
     <message>
         <source>L STICK DOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>Л. СТИК ВНИЗ</translation>
     </message>
     <message>
         <source>R STICK LEFT</source>
-        <translation type="unfinished"></translation>
+        <translation>П. СТИК ВЛЕВО</translation>
     </message>
     <message>
         <source>R STICK DOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>П. СТИК ВНИЗ</translation>
     </message>
     <message>
         <source>CURSOR UP</source>
-        <translation type="unfinished"></translation>
+        <translation>КУРСОР ВВЕРХ</translation>
     </message>
     <message>
         <source>CURSOR RIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>КУРСОР ВПРАВО</translation>
     </message>
     <message>
         <source>CURSOR DOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>КУРСОР ВНИЗ</translation>
     </message>
     <message>
         <source>CURSOR LEFT</source>
-        <translation type="unfinished"></translation>
+        <translation>КУРСОР ВЛЕВО</translation>
     </message>
     <message>
         <source>SCROLL UP</source>
-        <translation type="unfinished"></translation>
+        <translation>КОЛЕСО ВВЕРХ</translation>
     </message>
     <message>
         <source>SCROLL DOWN</source>
-        <translation type="unfinished"></translation>
+        <translation>КОЛЕСО ВНИЗ</translation>
     </message>
     <message>
         <source>LEFT CLICK</source>
-        <translation type="unfinished"></translation>
+        <translation>ЛЕВЫЙ ЩЕЛЧОК</translation>
     </message>
     <message>
         <source>RIGHT CLICK</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРАВЫЙ ЩЕЛЧОК</translation>
     </message>
     <message>
         <source>WHEEL CLICK</source>
-        <translation type="unfinished"></translation>
+        <translation>НАЖАТИЕ КОЛЕСА</translation>
     </message>
     <message>
         <source>BACKWARD</source>
-        <translation type="unfinished"></translation>
+        <translation>НАЗАД</translation>
     </message>
     <message>
         <source>FORWARD</source>
-        <translation type="unfinished"></translation>
+        <translation>ВПЕРЁД</translation>
     </message>
     <message>
         <source>L STICK RIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>Л. СТИК ВПРАВО</translation>
     </message>
     <message>
         <source>L STICK UP</source>
-        <translation type="unfinished"></translation>
+        <translation>Л. СТИК ВВЕРХ</translation>
     </message>
     <message>
         <source>R STICK RIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>П. СТИК ВПРАВО</translation>
     </message>
     <message>
         <source>R STICK UP</source>
-        <translation type="unfinished"></translation>
+        <translation>П. СТИК ВВЕРХ</translation>
     </message>
     <message>
         <source>SCROLL LEFT</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОКРУТКА ВЛЕВО</translation>
     </message>
     <message>
         <source>SCROLL RIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОКРУТКА ВПРАВО</translation>
     </message>
     <message>
         <source>PROFILE 1</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 1</translation>
     </message>
     <message>
         <source>PROFILE 2</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 2</translation>
     </message>
     <message>
         <source>PROFILE 3</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 3</translation>
     </message>
     <message>
         <source>PROFILE 4</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 4</translation>
     </message>
     <message>
         <source>PROFILE 5</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 5</translation>
     </message>
     <message>
         <source>PROFILE 6</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 6</translation>
     </message>
     <message>
         <source>PROFILE 7</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 7</translation>
     </message>
     <message>
         <source>PROFILE 8</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 8</translation>
     </message>
     <message>
         <source>PROFILE 9</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 9</translation>
     </message>
     <message>
         <source>PROFILE 10</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 10</translation>
     </message>
     <message>
         <source>PROFILE 11</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 11</translation>
     </message>
     <message>
         <source>PROFILE 12</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 12</translation>
     </message>
     <message>
         <source>PROFILE 13</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 13</translation>
     </message>
     <message>
         <source>PROFILE 14</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 14</translation>
     </message>
     <message>
         <source>PROFILE 15</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 15</translation>
     </message>
     <message>
         <source>PROFILE 16</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 16</translation>
     </message>
     <message>
         <source>PROFILE 17</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 17</translation>
     </message>
     <message>
         <source>PROFILE 18</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 18</translation>
     </message>
     <message>
         <source>PROFILE 19</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 19</translation>
     </message>
     <message>
         <source>PROFILE 20</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 20</translation>
     </message>
     <message>
         <source>PROFILE 21</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 21</translation>
     </message>
     <message>
         <source>PROFILE 22</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 22</translation>
     </message>
     <message>
         <source>PROFILE 23</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 23</translation>
     </message>
     <message>
         <source>PROFILE 24</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ 24</translation>
     </message>
     <message>
         <source>PROFILE[+]</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ[+]</translation>
     </message>
     <message>
         <source>PROFILE[-]</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ[-]</translation>
     </message>
     <message>
         <source>PROFILE CYCLE+</source>
-        <translation type="unfinished"></translation>
+        <translation>СЛЕДУЮЩИЙ ПРОФИЛЬ+</translation>
     </message>
     <message>
         <source>PROFILE CYCLE-</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРЕДЫДУЩИЙ ПРОФИЛЬ-</translation>
     </message>
     <message>
         <source>`</source>
-        <translation type="unfinished"></translation>
+        <translation>`</translation>
     </message>
     <message>
         <source>1</source>
-        <translation type="unfinished"></translation>
+        <translation>1</translation>
     </message>
     <message>
         <source>2</source>
-        <translation type="unfinished"></translation>
+        <translation>2</translation>
     </message>
     <message>
         <source>3</source>
-        <translation type="unfinished"></translation>
+        <translation>3</translation>
     </message>
     <message>
         <source>4</source>
-        <translation type="unfinished"></translation>
+        <translation>4</translation>
     </message>
     <message>
         <source>5</source>
-        <translation type="unfinished"></translation>
+        <translation>5</translation>
     </message>
     <message>
         <source>6</source>
-        <translation type="unfinished"></translation>
+        <translation>6</translation>
     </message>
     <message>
         <source>7</source>
-        <translation type="unfinished"></translation>
+        <translation>7</translation>
     </message>
     <message>
         <source>8</source>
-        <translation type="unfinished"></translation>
+        <translation>8</translation>
     </message>
     <message>
         <source>9</source>
-        <translation type="unfinished"></translation>
+        <translation>9</translation>
     </message>
     <message>
         <source>0</source>
-        <translation type="unfinished"></translation>
+        <translation>0</translation>
     </message>
     <message>
         <source>-</source>
-        <translation type="unfinished"></translation>
+        <translation>-</translation>
     </message>
     <message>
         <source>[</source>
-        <translation type="unfinished"></translation>
+        <translation>[</translation>
     </message>
     <message>
         <source>]</source>
-        <translation type="unfinished"></translation>
+        <translation>]</translation>
     </message>
     <message>
         <source>\</source>
-        <translation type="unfinished"></translation>
+        <translation>\</translation>
     </message>
     <message>
         <source>;</source>
-        <translation type="unfinished"></translation>
+        <translation>;</translation>
     </message>
     <message>
         <source>&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>&apos;</translation>
     </message>
     <message>
         <source>,</source>
-        <translation type="unfinished"></translation>
+        <translation>,</translation>
     </message>
     <message>
         <source>.</source>
-        <translation type="unfinished"></translation>
+        <translation>.</translation>
     </message>
     <message>
         <source>/</source>
-        <translation type="unfinished"></translation>
+        <translation>/</translation>
     </message>
     <message>
         <source>~</source>
-        <translation type="unfinished"></translation>
+        <translation>~</translation>
     </message>
     <message>
         <source>!</source>
-        <translation type="unfinished"></translation>
+        <translation>!</translation>
     </message>
     <message>
         <source>@</source>
-        <translation type="unfinished"></translation>
+        <translation>@</translation>
     </message>
     <message>
         <source>#</source>
-        <translation type="unfinished"></translation>
+        <translation>#</translation>
     </message>
     <message>
         <source>$</source>
-        <translation type="unfinished"></translation>
+        <translation>$</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>^</source>
-        <translation type="unfinished"></translation>
+        <translation>^</translation>
     </message>
     <message>
         <source>&amp;&amp;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;&amp;</translation>
     </message>
     <message>
         <source>*</source>
-        <translation type="unfinished"></translation>
+        <translation>*</translation>
     </message>
     <message>
         <source>(</source>
-        <translation type="unfinished"></translation>
+        <translation>(</translation>
     </message>
     <message>
         <source>)</source>
-        <translation type="unfinished"></translation>
+        <translation>)</translation>
     </message>
     <message>
         <source>_</source>
-        <translation type="unfinished"></translation>
+        <translation>_</translation>
     </message>
     <message>
         <source>+</source>
-        <translation type="unfinished"></translation>
+        <translation>+</translation>
     </message>
     <message>
         <source>{</source>
-        <translation type="unfinished"></translation>
+        <translation>{</translation>
     </message>
     <message>
         <source>}</source>
-        <translation type="unfinished"></translation>
+        <translation>}</translation>
     </message>
     <message>
         <source>|</source>
-        <translation type="unfinished"></translation>
+        <translation>|</translation>
     </message>
     <message>
         <source>:</source>
-        <translation type="unfinished"></translation>
+        <translation>:</translation>
     </message>
     <message>
         <source>&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;</translation>
     </message>
     <message>
         <source>&lt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;</translation>
     </message>
     <message>
         <source>&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&gt;</translation>
     </message>
     <message>
         <source>?</source>
-        <translation type="unfinished"></translation>
+        <translation>?</translation>
     </message>
     <message>
         <source>UNKNOWN KEY</source>
-        <translation type="unfinished"></translation>
+        <translation>НЕИЗВЕСТНАЯ КЛАВИША</translation>
     </message>
 </context>
 <context>
     <name>KeyboardAdvWid</name>
     <message>
         <source>ALPHANUMERIC</source>
-        <translation type="unfinished"></translation>
+        <translation>БУКВЫ И ЦИФРЫ</translation>
     </message>
     <message>
         <source>SYMBOLS &amp;&amp; PUNCTUATION</source>
-        <translation type="unfinished"></translation>
+        <translation>СИМВОЛЫ &amp;&amp; ПУНКТУАЦИЯ</translation>
     </message>
     <message>
         <source>NAVIGATION KEYS</source>
-        <translation type="unfinished"></translation>
+        <translation>КЛАВИШИ НАВИГАЦИИ</translation>
     </message>
     <message>
         <source>MODIFIER</source>
-        <translation type="unfinished"></translation>
+        <translation>МОДИФИКАТОРЫ</translation>
     </message>
     <message>
         <source>FUNCTION KEYS</source>
-        <translation type="unfinished"></translation>
+        <translation>ФУНКЦИОНАЛЬНЫЕ КЛАВИШИ</translation>
     </message>
     <message>
         <source>NUMBERPAD KEYS</source>
-        <translation type="unfinished"></translation>
+        <translation>ЦИФРОВОЙ БЛОК</translation>
     </message>
 </context>
 <context>
     <name>MacroAdvUi</name>
     <message>
         <source>USER MACROS</source>
-        <translation type="unfinished"></translation>
+        <translation>СВОИ МАКРОСЫ</translation>
     </message>
     <message>
         <source>CREATE NEW MACRO</source>
-        <translation type="unfinished"></translation>
+        <translation>СОЗДАТЬ МАКРОС</translation>
     </message>
     <message>
         <source>WINDOWS KEYBOARD SHORTCUTS</source>
-        <translation type="unfinished"></translation>
+        <translation>СОЧЕТАНИЯ КЛАВИШ WINDOWS</translation>
     </message>
 </context>
 <context>
     <name>MacroAdvWid</name>
     <message>
         <source>CTRL</source>
-        <translation type="unfinished"></translation>
+        <translation>CTRL</translation>
     </message>
     <message>
         <source>SHIFT</source>
-        <translation type="unfinished"></translation>
+        <translation>SHIFT</translation>
     </message>
     <message>
         <source>ALT</source>
-        <translation type="unfinished"></translation>
+        <translation>ALT</translation>
     </message>
 </context>
 <context>
     <name>MacroUi</name>
     <message>
         <source>+ CREATE NEW MACRO</source>
-        <translation type="unfinished"></translation>
+        <translation>+ СОЗДАТЬ МАКРОС</translation>
     </message>
 </context>
 <context>
     <name>MediaUi</name>
     <message>
         <source>MULTIMEDIA KEYS</source>
-        <translation type="unfinished"></translation>
+        <translation>МУЛЬТИМЕДИЙНЫЕ КЛАВИШИ</translation>
     </message>
 </context>
 <context>
     <name>PanelWid</name>
     <message>
         <source>Keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Клавиатура</translation>
     </message>
     <message>
         <source>Gaming</source>
-        <translation type="unfinished"></translation>
+        <translation>Игры</translation>
     </message>
     <message>
         <source>Creative Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Творчество</translation>
     </message>
     <message>
         <source>Standard WASD</source>
-        <translation type="unfinished"></translation>
+        <translation>Обычная WASD</translation>
     </message>
     <message>
         <source>Standard ESDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Обычная ESDF</translation>
     </message>
     <message>
         <source>Numpad Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Цифровой блок</translation>
     </message>
     <message>
         <source>FPS Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим FPS</translation>
     </message>
     <message>
         <source>Driving Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Вождение</translation>
     </message>
     <message>
         <source>Adv. Flight Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Полёт (расш.)</translation>
     </message>
     <message>
         <source>Photoshop</source>
-        <translation type="unfinished"></translation>
+        <translation>Photoshop</translation>
     </message>
     <message>
         <source>Illustrator</source>
-        <translation type="unfinished"></translation>
+        <translation>Illustrator</translation>
     </message>
     <message>
         <source>Premiere Pro</source>
-        <translation type="unfinished"></translation>
+        <translation>Premiere Pro</translation>
     </message>
 </context>
 <context>
     <name>PressoFunUi</name>
     <message>
         <source>DEADZONE CALIBRATION</source>
-        <translation type="unfinished"></translation>
+        <translation>КАЛИБРОВКА МЁРТВОЙ ЗОНЫ</translation>
     </message>
 </context>
 <context>
     <name>PressoUi</name>
     <message>
         <source>PRESSURE</source>
-        <translation type="unfinished"></translation>
+        <translation>ДАТЧИК</translation>
     </message>
     <message>
         <source>SENSING</source>
-        <translation type="unfinished"></translation>
+        <translation>НАЖАТИЯ</translation>
     </message>
     <message>
         <source>ON</source>
-        <translation type="unfinished"></translation>
+        <translation>ВКЛ</translation>
     </message>
     <message>
         <source>OFF</source>
-        <translation type="unfinished"></translation>
+        <translation>ВЫКЛ</translation>
     </message>
 </context>
 <context>
     <name>ProfileUi</name>
     <message>
         <source>PROFILE</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ</translation>
     </message>
 </context>
 <context>
     <name>ReassignDlg</name>
     <message>
         <source>KEY ASSIGNMENT</source>
-        <translation type="unfinished"></translation>
+        <translation>НАЗНАЧЕНИЕ КЛАВИШИ</translation>
     </message>
     <message>
         <source>KEY ASSIGNMENT - VANTRIX </source>
-        <translation type="unfinished"></translation>
+        <translation>НАЗНАЧЕНИЕ КЛАВИШИ - VANTRIX </translation>
     </message>
     <message>
         <source>CLOSE</source>
-        <translation type="unfinished"></translation>
+        <translation>ЗАКРЫТЬ</translation>
     </message>
     <message>
         <source>SEARCH</source>
-        <translation type="unfinished"></translation>
+        <translation>ПОИСК</translation>
     </message>
     <message>
         <source>CANCEL</source>
-        <translation type="unfinished"></translation>
+        <translation>ОТМЕНА</translation>
     </message>
     <message>
         <source>APPLY</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРИМЕНИТЬ</translation>
     </message>
     <message>
         <source>MOUSE BUTTONS</source>
-        <translation type="unfinished"></translation>
+        <translation>КНОПКИ МЫШИ</translation>
     </message>
     <message>
         <source>MEDIA COMMANDS</source>
-        <translation type="unfinished"></translation>
+        <translation>КОМАНДЫ МЕДИА</translation>
     </message>
     <message>
         <source>PRESSO FUNCTIONS</source>
-        <translation type="unfinished"></translation>
+        <translation>ФУНКЦИИ PRESSO</translation>
     </message>
     <message>
         <source>BACKLIGHT</source>
-        <translation type="unfinished"></translation>
+        <translation>ПОДСВЕТКА</translation>
     </message>
     <message>
         <source>PROFILE</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОФИЛЬ</translation>
     </message>
 </context>
 <context>
     <name>VantrixMapWid</name>
     <message>
         <source>SIMPLE</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРОСТОЙ</translation>
     </message>
     <message>
         <source>ADVANCED</source>
-        <translation type="unfinished"></translation>
+        <translation>РАСШИРЕННЫЙ</translation>
     </message>
     <message>
         <source>APPLY</source>
-        <translation type="unfinished"></translation>
+        <translation>ПРИМЕНИТЬ</translation>
     </message>
     <message>
         <source>RESET</source>
-        <translation type="unfinished"></translation>
+        <translation>СБРОС</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Сброс</translation>
     </message>
     <message>
         <source>Are you sure you want to reset?</source>
-        <translation type="unfinished"></translation>
+        <translation>Вы действительно хотите выполнить сброс?</translation>
     </message>
 </context>
 </TS>

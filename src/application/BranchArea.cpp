@@ -7,6 +7,7 @@ BranchArea::BranchArea(QWidget *parent) : QScrollArea(parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setFocusPolicy(Qt::NoFocus);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
 QSize BranchArea::sizeHint() const
@@ -23,15 +24,6 @@ QSize BranchArea::sizeHint() const
 QSize BranchArea::minimumSizeHint() const
 {
     return {0, sizeHint().height()};
-}
-
-bool BranchArea::viewportEvent(QEvent *event)
-{
-    const bool handled = QScrollArea::viewportEvent(event);
-    // What is in it says so here when its layout ran at once.
-    if (event->type() == QEvent::LayoutRequest)
-        updateGeometry();
-    return handled;
 }
 
 bool BranchArea::eventFilter(QObject *watched, QEvent *event)

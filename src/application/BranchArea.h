@@ -17,6 +17,5 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
-    bool viewportEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 };

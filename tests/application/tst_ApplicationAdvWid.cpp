@@ -2,6 +2,7 @@
 
 #include "CatalogFolder.h"
 #include "application/AppHotKeysWid.h"
+#include "application/BranchArea.h"
 #include "application/FuncLevWid.h"
 #include "application/HotKey.h"
 #include "application/HotKeyTree.h"
@@ -132,6 +133,7 @@ private slots:
     void searchStylesNothing();
     void tabReachesEveryLeaf();
     void areasAreAsHighAsTheirContent();
+    void areaGrowsWithItsContent();
     void portions();
     void mostKeys();
     void destroyedAtAnyTime_data();
@@ -305,6 +307,7 @@ void tst_ApplicationAdvWid::unknownPlacesAreDropped()
     add("X", "B");
     add("A", "X");
     add("a", "B");
+    add("A", "b");
     QMetaObject::invokeMethod(m_page.get(), "slotAddSecondLev", Q_ARG(QString, QStringLiteral("X")),
                               Q_ARG(QStringList, QStringList(QStringLiteral("Y"))));
     QCOMPARE(m_page->findChildren<HotKey *>().size(), 0);
@@ -539,10 +542,12 @@ void tst_ApplicationAdvWid::searchFoldedThenOpened()
     for (int i = 0; i < 40; ++i)
         m_catalog->addFile(QStringLiteral("A/B/C%1").arg(i), CatalogFolder::rows(5, 12));
     makePage(2400);
-    emit m_page->sigSearch(QStringLiteral("g4 key 1"));
-    // Whatever the portions have come to: what is opened is right.
     HotKeysWid *const last = openGroup(QStringLiteral("A"), QStringLiteral("B"),
                                        QStringLiteral("C39"), QStringLiteral("GROUP 4"));
+    titleOf(last)->click();
+    emit m_page->sigSearch(QStringLiteral("g4 key 1"));
+    // Whatever the portions have come to: what is opened is right.
+    titleOf(last)->click();
     QCOMPARE(cells(last), QStringLiteral("G4 KEY 1:0,0 G4 KEY 10:1,0 G4 KEY 11:2,0"));
     const auto hidden = [&] {
         int count = 0;
@@ -661,17 +666,46 @@ void tst_ApplicationAdvWid::tabReachesEveryLeaf()
 
 void tst_ApplicationAdvWid::areasAreAsHighAsTheirContent()
 {
-    m_catalog->addFile(QStringLiteral("A/B/C"), CatalogFolder::rows(6, 40));
-    makePage(240);
-    for (int i = 0; i < 6; ++i)
-        openGroup(QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C"),
-                  QStringLiteral("GROUP %1").arg(i));
+    for (int i = 0; i < 4; ++i)
+        m_catalog->addFile(QStringLiteral("A/B/C%1").arg(i), CatalogFolder::rows(3, 40));
+    makePage(480);
+    for (int i = 0; i < 12; ++i)
+        openGroup(QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C%1").arg(i % 4),
+                  QStringLiteral("GROUP %1").arg(i / 4));
     for (QScrollArea *area : m_page->findChildren<QScrollArea *>()) {
         if (area->parentWidget() == m_page.get())
             continue;
         QTRY_VERIFY(area->widget()->height() <= area->viewport()->height());
-        QVERIFY(area->widget()->minimumSizeHint().height() <= area->viewport()->height());
+        QTRY_VERIFY(area->widget()->minimumSizeHint().height() <= area->viewport()->height());
     }
+}
+
+void tst_ApplicationAdvWid::areaGrowsWithItsContent()
+{
+    QWidget window;
+    window.resize(400, 900);
+    auto *const layout = new QVBoxLayout(&window);
+    auto *const area = new BranchArea(&window);
+    area->setWidgetResizable(true);
+    layout->addWidget(area, 0, Qt::AlignTop);
+    auto *const content = new QWidget;
+    auto *const inner = new QVBoxLayout(content);
+    inner->setContentsMargins(0, 0, 0, 0);
+    auto *const leaf = new QWidget(content);
+    leaf->setFixedHeight(50);
+    inner->addWidget(leaf);
+    area->setWidget(content);
+    window.show();
+    const int frames = 2 * area->frameWidth();
+    QTRY_COMPARE(area->height(), 50 + frames);
+    leaf->setFixedHeight(300);
+    QTRY_COMPARE(area->height(), 300 + frames);
+    leaf->setMinimumWidth(1000);
+    QTRY_VERIFY(area->height() > 300 + frames);
+    QTRY_COMPARE(area->viewport()->height(), 300);
+    leaf->setMinimumWidth(0);
+    leaf->setFixedHeight(20);
+    QTRY_COMPARE(area->height(), 20 + frames);
 }
 
 void tst_ApplicationAdvWid::portions()

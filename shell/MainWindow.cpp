@@ -1,5 +1,6 @@
 #include "shell/MainWindow.h"
 
+#include "shell/KeyTitle.h"
 #include "shell/Language.h"
 #include "shell/MappingView.h"
 #include "shell/MessageBar.h"
@@ -247,6 +248,8 @@ void MainWindow::connectContext()
     connect(&store, &ProfileStore::stepsChanged, this, &MainWindow::updateSteps);
     connect(&store, &ProfileStore::profileChanged, this, &MainWindow::updateSteps);
     connect(&store, &ProfileStore::settingChanged, this, &MainWindow::onSettingChanged);
+    connect(&store, &ProfileStore::viewChanged, this, &MainWindow::sayWhoHasTheKeyboard);
+    connect(&m_context, &ShellContext::profileShown, this, &MainWindow::sayWhoHasTheKeyboard);
     for (const QString &text : store.messages())
         m_messages->add(text);
     connect(&store, &ProfileStore::message, m_messages, &MessageBar::add);
@@ -284,6 +287,19 @@ void MainWindow::sayWhatIsPending()
     else
         m_firstStatus = tr("Everything is on the device.");
     m_status->setText(m_firstStatus);
+}
+
+void MainWindow::sayWhoHasTheKeyboard()
+{
+    const bool wasSaid = !m_captureHint.isEmpty() && m_status->text() == m_captureHint;
+    const int key = m_context.store().getCurrentKey(m_context.owner(), m_context.profile());
+    m_captureHint.clear();
+    if (key < KeyCount && m_context.services().keyCapture().capturing())
+        m_captureHint = tr("%1 takes the next key you press. Ctrl+K, with no key selected, "
+                           "switches that off.")
+                            .arg(KeyTitle::withLegend(key));
+    if (wasSaid || !m_captureHint.isEmpty())
+        m_status->setText(m_captureHint);
 }
 
 // ---- pages ----

@@ -57,6 +57,7 @@ private:
     void connectContext();
     void restore();
     void sayWhatIsPending();
+    void sayWhoHasTheKeyboard();
     void arrange();
     void follow(const std::optional<StepOutcome> &outcome, const QString &text, int shown);
     void updateSteps();
@@ -80,6 +81,7 @@ private:
     QLabel *m_applied = nullptr;
     QLabel *m_saved = nullptr;
     QString m_firstStatus;
+    QString m_captureHint;
     bool m_isRestored = false;
     ShellPage m_page = ShellPage::Mapping;
 };

@@ -148,6 +148,13 @@ ProfileList::ProfileList(ShellContext &context, QWidget *parent)
     m_list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setMouseTracking(true);
+    m_list->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_list, &QWidget::customContextMenuRequested, this, [this](const QPoint &place) {
+        auto *menu = new QMenu(m_list);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        fillMenu(menu);
+        menu->popup(m_list->viewport()->mapToGlobal(place));
+    });
     m_heading->setStyleSheet(ShellStyle::headingSheet());
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_heading);

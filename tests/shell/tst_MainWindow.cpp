@@ -478,6 +478,12 @@ void tst_MainWindow::captureCanBeForbidden()
     m_window->mappingView()->setCaptureAllowed(true);
     clickOn(key(7));
     QVERIFY(m_shell->services.keyCapture().capturing());
+    m_shell->store().flush();
+    QVERIFY(said().startsWith(QStringLiteral("Key 7 (W) takes the next key you press.")));
+    clickOn(key(7));
+    m_shell->store().flush();
+    QCOMPARE(said(), QString());
+    clickOn(key(7));
     m_window->mappingView()->setCaptureAllowed(false);
     QVERIFY(!m_shell->services.keyCapture().capturing());
 }

@@ -33,8 +33,10 @@ void HotKey::fit(int width, const QFontMetrics &metrics)
     if (minimumWidth() == width && maximumWidth() == width)
         return;
     setFixedWidth(width);
-    setText(
-        SearchGrid::buttonText(metrics.elidedText(shownPart(m_strKeyName), Qt::ElideRight, width)));
+    const QString full = shownPart(m_strKeyName);
+    const QString shown = metrics.elidedText(full, Qt::ElideRight, width);
+    setText(SearchGrid::buttonText(shown));
+    setAccessibleName(shown == full ? QString() : full);
 }
 
 void HotKey::focusInEvent(QFocusEvent *event)

@@ -473,6 +473,9 @@ void tst_ApplicationAdvWid::elidedWithToolTip()
     QVERIFY(key->text().endsWith(QChar(0x2026)));
     QVERIFY(key->fontMetrics().horizontalAdvance(key->text()) <= 180);
     QCOMPARE(key->toolTip(), name + QStringLiteral(" (CTRL+A) "));
+    QCOMPARE(key->accessibleName(), name);
+    wid.resize(2000, 300);
+    QCOMPARE(key->minimumWidth(), 180);
     QCOMPARE(wid.findChildren<HotKey *>().at(1)->toolTip(), QStringLiteral("B () "));
 }
 

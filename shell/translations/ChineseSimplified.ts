@@ -407,6 +407,115 @@
     </message>
 </context>
 <context>
+    <name>MacroEditor</name>
+    <message>
+        <source>RECORDING
+Press keys. To finish, press Esc twice or click STOP.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Events of the macro</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RECORD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record keys at the end of the macro</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delays of recorded keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>delays as they were</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no delays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fixed delays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixed delay in milliseconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SET ALL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give all events of the macro this delay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Event to add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>press and release</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>press</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>release</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ADD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the event up (Alt+Up)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the event down (Alt+Down)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DELETE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chosen events:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 events</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make a new macro, then record keys.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>STOP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a key that a macro can have.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RECORDING: %1 events
+Press keys. To finish, press Esc twice or click STOP.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MacroEventDelegate</name>
     <message>
         <source>release</source>
@@ -515,83 +624,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>RECORDING
-Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Events of the macro</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>RECORD</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Record keys at the end of the macro</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Delays of recorded keys</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>delays as they were</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>no delays</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>fixed delays</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Fixed delay in milliseconds</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source> ms</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>SET ALL</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Give all events of the macro this delay</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Event to add</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>press and release</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>press</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>release</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>ADD</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move the event up (Alt+Up)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Move the event down (Alt+Down)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>NO KEY HAS IT</source>
         <translation type="unfinished"></translation>
     </message>
@@ -601,18 +633,6 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     </message>
     <message>
         <source>Go to this key</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1: %2 of %3 events</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Make a new macro, then record keys.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>STOP</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -656,24 +676,11 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a key that a macro can have.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>RECORDING: %1 events
-Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>COPY</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Make another macro with the same events</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Chosen events:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -836,6 +843,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     </message>
     <message>
         <source>CHECK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

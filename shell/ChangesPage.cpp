@@ -2,6 +2,7 @@
 
 #include "host/KeyText.h"
 #include "shell/FunctionDelegate.h"
+#include "shell/KeyTitle.h"
 #include "shell/ShellStyle.h"
 #include "vocabulary/KeyCodes.h"
 
@@ -18,12 +19,6 @@ namespace {
 
 constexpr int KeyRole = Qt::UserRole;
 
-/// A key as the user sees it before anything is assigned to it.
-QString keyName(int keyIdx)
-{
-    return QStringLiteral("%1  %2").arg(keyIdx).arg(KeyText::codeName(defaultCodeOfKey(keyIdx)));
-}
-
 void setFunction(QTreeWidgetItem *item, int column, const QString &text, int kind)
 {
     item->setText(column, text);
@@ -34,7 +29,7 @@ void setFunction(QTreeWidgetItem *item, int column, const QString &text, int kin
 QTreeWidgetItem *newItem(int keyIdx)
 {
     auto *item = new QTreeWidgetItem;
-    item->setText(0, keyName(keyIdx));
+    item->setText(0, KeyTitle::withLegend(keyIdx));
     item->setData(0, KeyRole, keyIdx);
     return item;
 }
@@ -61,9 +56,9 @@ ChangesPage::ChangesPage(ShellContext &context, QWidget *parent)
     m_apply->setObjectName(QStringLiteral("m_applyChangesBtn"));
     m_apply->setStyleSheet(ShellStyle::primarySheet());
     m_deviceLab->setStyleSheet(ShellStyle::headingSheet());
-    m_pending = addTree("m_pendingTree", {tr("Key"), tr("The device has"), tr("APPLY makes it")});
+    m_pending = addTree("m_pendingTree", {tr("KEY"), tr("THE DEVICE HAS"), tr("APPLY MAKES IT")});
     m_pending->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_device = addTree("m_deviceTree", {tr("Key"), tr("Function")});
+    m_device = addTree("m_deviceTree", {tr("KEY"), tr("FUNCTION")});
 
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(m_putBack);

@@ -74,7 +74,7 @@ void tst_ChangesPage::listsOldAndNew()
     m_shell->apply();
     m_shell->assign(7, 497);
     QTRY_COMPARE(pending()->topLevelItemCount(), 1);
-    QCOMPARE(text(0, 0).left(1), QStringLiteral("7"));
+    QCOMPARE(text(0, 0), QStringLiteral("Key 7 (W)"));
     QCOMPARE(text(0, 1), QStringLiteral("B"));
     QCOMPARE(text(0, 2), QStringLiteral("RIGHT CLICK"));
     const QTreeWidgetItem *const item = pending()->topLevelItem(0);

@@ -30,13 +30,13 @@ DeviceView::DeviceView(ShellContext &context, QWidget *parent) : QWidget(parent)
     m_columns->addWidget(makePad(), 3);
     m_columns->addWidget(makeLog(), 2);
     const ProfileStore &store = context.store();
-    connect(&store, &ProfileStore::deviceChanged, this, &DeviceView::refresh);
-    connect(&store, &ProfileStore::profileListChanged, this, &DeviceView::refresh);
-    connect(&store, &ProfileStore::profileChanged, this, &DeviceView::refresh);
-    connect(&store, &ProfileStore::macrosChanged, this, &DeviceView::refresh);
-    connect(&store, &ProfileStore::pressoChanged, this, &DeviceView::refresh);
+    connect(&store, &ProfileStore::deviceChanged, this, &DeviceView::onChanged);
+    connect(&store, &ProfileStore::profileListChanged, this, &DeviceView::onChanged);
+    connect(&store, &ProfileStore::profileChanged, this, &DeviceView::onChanged);
+    connect(&store, &ProfileStore::macrosChanged, this, &DeviceView::onChanged);
+    connect(&store, &ProfileStore::pressoChanged, this, &DeviceView::onChanged);
     // after the environment has taken over another language
-    connect(&store, &ProfileStore::settingChanged, this, &DeviceView::refresh,
+    connect(&store, &ProfileStore::settingChanged, this, &DeviceView::onChanged,
             Qt::QueuedConnection);
     refresh();
     chooseKey(0);
@@ -129,6 +129,18 @@ QWidget *DeviceView::makeLog()
     connect(release, &QPushButton::clicked, this, &DeviceView::releaseAll);
     connect(clear, &QPushButton::clicked, m_log, &QTreeWidget::clear);
     return box;
+}
+
+void DeviceView::onChanged()
+{
+    if (isVisible())
+        refresh();
+}
+
+void DeviceView::showEvent(QShowEvent *event)
+{
+    refresh();
+    QWidget::showEvent(event);
 }
 
 void DeviceView::refresh()

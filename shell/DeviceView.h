@@ -32,11 +32,13 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
     QWidget *makePad();
     QWidget *makeLog();
+    void onChanged();
     void refresh();
     void chooseProfile(int row);
     void chooseKey(int keyIdx);

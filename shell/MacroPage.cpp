@@ -40,11 +40,8 @@ MacroPage::MacroPage(ShellContext &context, QWidget *parent) : QWidget(parent), 
     connect(m_editor, &MacroEditor::edited, this, &MacroPage::refreshList);
     connect(m_editor, &MacroEditor::recordingChanged, this, &MacroPage::showState);
     connect(&context.store(), &ProfileStore::macrosChanged, this, &MacroPage::refresh);
-    connect(&context.store(), &ProfileStore::profileChanged, this, [this] {
-        refreshList();
-        refreshUses();
-    });
-    connect(&context.store(), &ProfileStore::profileListChanged, this, &MacroPage::refreshUses);
+    connect(&context.store(), &ProfileStore::profileChanged, this, &MacroPage::onKeysChanged);
+    connect(&context.store(), &ProfileStore::profileListChanged, this, &MacroPage::onKeysChanged);
     connect(&context, &ShellContext::newMacroRequested, this, &MacroPage::beginForKey);
     refresh();
 }
@@ -131,10 +128,39 @@ void MacroPage::refresh()
     showState();
 }
 
+void MacroPage::onKeysChanged()
+{
+    if (!isVisible())
+        return; // they are looked at when the page is shown
+    refreshList();
+    refreshUses();
+}
+
+void MacroPage::showEvent(QShowEvent *event)
+{
+    refresh();
+    QWidget::showEvent(event);
+}
+
+/// How many keys have each macro.
+std::map<QString, int> MacroPage::countKeys() const
+{
+    std::map<QString, int> counts;
+    for (int profile = 0; profile < ProfileCount; ++profile) {
+        for (int key = 0; key < KeyCount; ++key) {
+            if (const auto name =
+                    m_context.store().state().macroKey(m_context.owner(), profile, key))
+                ++counts[*name];
+        }
+    }
+    return counts;
+}
+
 void MacroPage::refreshList()
 {
     const QSignalBlocker blocker(m_macroList);
     const ProfileStore &store = m_context.store();
+    std::map<QString, int> keyCounts = countKeys();
     const int owner = m_context.owner();
     const QStringList names = store.state().macroNames(owner);
     while (m_macroList->topLevelItemCount() > names.size())
@@ -151,7 +177,7 @@ void MacroPage::refreshList()
         item->setText(NameColumn, names[i]);
         item->setData(NameColumn, NameRole, names[i]);
         item->setText(EventsColumn, QString::number(macro ? macro->count : 0));
-        item->setText(KeysColumn, QString::number(store.keysOfMacro(owner, names[i]).size()));
+        item->setText(KeysColumn, QString::number(keyCounts[names[i]]));
         if (names[i] == m_current)
             m_macroList->setCurrentItem(item);
     }

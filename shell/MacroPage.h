@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <map>
+
 class FlowLayout;
 class MacroEditor;
 class QBoxLayout;
@@ -40,6 +42,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     using Command = void (MacroPage::*)();
@@ -50,6 +53,8 @@ private:
     void refresh();
     void refreshList();
     void refreshUses();
+    void onKeysChanged();
+    std::map<QString, int> countKeys() const;
     void showState();
     void onCurrentChanged(const QTreeWidgetItem *item);
     void onItemChanged(QTreeWidgetItem *item, int column);

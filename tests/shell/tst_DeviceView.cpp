@@ -36,6 +36,7 @@ private slots:
     void chooseProfile();
     void losingFocusLetsGo();
     void hidingLetsGo();
+    void changesBehindItsBackAreShown();
     void letGoAndClear();
     void logIsCut();
     void nothingIsStored();
@@ -311,6 +312,15 @@ void tst_DeviceView::hidingLetsGo()
     QCOMPARE(m_shell->device().keyDepth(0), 50);
     m_view->hide();
     QCOMPARE(m_shell->device().keyDepth(0), 0);
+}
+
+void tst_DeviceView::changesBehindItsBackAreShown()
+{
+    m_view->hide();
+    m_shell->assign(7, 5);
+    m_shell->apply();
+    m_view->show();
+    QCOMPARE(pad()->keys()[7].text, QStringLiteral("B"));
 }
 
 void tst_DeviceView::letGoAndClear()

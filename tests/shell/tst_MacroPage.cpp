@@ -56,6 +56,7 @@ private slots:
     void undoIsShown();
     void showingWritesNothing();
     void usesLeadToTheirKeys();
+    void changesBehindItsBackAreShown();
     void beginForAKeyAndBack();
     void beginForAKeyAndBackWithNothing();
     void foreignBytesStay();
@@ -572,6 +573,19 @@ void tst_MacroPage::usesLeadToTheirKeys()
     clickOn(chips[1]);
     QCOMPARE(asked.count(), 1);
     QCOMPARE(asked[0], QVariantList({4, 22}));
+}
+
+void tst_MacroPage::changesBehindItsBackAreShown()
+{
+    add("Save", Four);
+    m_page->hide();
+    store().setNamedMacroKey(0, 0, "Save", 7);
+    store().addMacro(0, QStringLiteral("Other"), vantrix_macro_record());
+    store().flush();
+    m_page->show();
+    QCOMPARE(list()->topLevelItemCount(), 2);
+    QCOMPARE(list()->topLevelItem(0)->text(3), QStringLiteral("1"));
+    QCOMPARE(child<QLabel>("m_usesTitle")->text(), QStringLiteral("KEYS THAT HAVE IT"));
 }
 
 void tst_MacroPage::beginForAKeyAndBack()

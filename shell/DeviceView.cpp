@@ -35,6 +35,7 @@ DeviceView::DeviceView(ShellContext &context, QWidget *parent) : QWidget(parent)
     connect(&store, &ProfileStore::profileChanged, this, &DeviceView::onChanged);
     connect(&store, &ProfileStore::macrosChanged, this, &DeviceView::onChanged);
     connect(&store, &ProfileStore::pressoChanged, this, &DeviceView::onChanged);
+    connect(&store, &ProfileStore::viewChanged, this, &DeviceView::followSelection);
     // after the environment has taken over another language
     connect(&store, &ProfileStore::settingChanged, this, &DeviceView::onChanged,
             Qt::QueuedConnection);
@@ -137,9 +138,18 @@ void DeviceView::onChanged()
         refresh();
 }
 
+/// The key that is selected on the mapping page is the one to try.
+void DeviceView::followSelection()
+{
+    const int key = m_context.store().getCurrentKey(m_context.owner(), m_context.profile());
+    if (isVisible() && isValidKey(key))
+        chooseKey(key);
+}
+
 void DeviceView::showEvent(QShowEvent *event)
 {
     refresh();
+    followSelection();
     QWidget::showEvent(event);
 }
 

@@ -13,7 +13,8 @@ class QPushButton;
 class QTreeWidget;
 
 /// The pad as the simulated device has it, to press and to watch: the keys of the profile that the
-/// device acts by, a slider for the depth of the chosen key, and a log of what the device sends.
+/// device acts by, a slider for the depth of the chosen key, and a log of what the device sends. A
+/// key that becomes selected on the mapping page is chosen here as well.
 ///
 /// Nothing here changes what is stored for keys; only the profile that the device acts by follows
 /// the list above the pad and the keys that switch it.
@@ -39,6 +40,7 @@ private:
     QWidget *makePad();
     QWidget *makeLog();
     void onChanged();
+    void followSelection();
     void refresh();
     void chooseProfile(int row);
     void chooseKey(int keyIdx);

@@ -28,6 +28,7 @@ private slots:
     void pressWithTheKeyboard();
     void arrowsChooseNeighbours();
     void slider();
+    void followsTheSelectedKey();
     void sliderMarksTheEdges();
     void dualActions_data();
     void dualActions();
@@ -201,6 +202,21 @@ void tst_DeviceView::slider()
     QCOMPARE(slider->value(), 11);
     pressKey(slider, Qt::Key_Up);
     QCOMPARE(slider->value(), 10);
+}
+
+void tst_DeviceView::followsTheSelectedKey()
+{
+    store().setCurrentKey(0, 0, 9);
+    store().flush();
+    QCOMPARE(pad()->currentKey(), 9);
+    store().clearCurrentKey(0, 0);
+    store().flush();
+    QCOMPARE(pad()->currentKey(), 9);
+    m_view->hide();
+    store().setCurrentKey(0, 0, 5);
+    store().flush();
+    m_view->show();
+    QCOMPARE(pad()->currentKey(), 5);
 }
 
 void tst_DeviceView::sliderMarksTheEdges()

@@ -2,10 +2,10 @@
 
 #include "host/ProfileExchange.h"
 #include "interfaces/Modal.h"
+#include "shell/ExchangeFolder.h"
 #include "shell/ShellStyle.h"
 
 #include <QBoxLayout>
-#include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
@@ -114,17 +114,35 @@ void ExportDlg::showState()
             : tr("Macros that go with them: %1.").arg(macros.join(QStringLiteral(", "))));
 }
 
-void ExportDlg::chooseFile()
+/// A name for the file, from the profile's if there is only one.
+QString ExportDlg::suggestedName() const
 {
     const std::vector<int> chosen = profiles();
-    const QString name = chosen.size() == 1
-                             ? m_context.store().state().profileName(m_context.owner(), chosen[0])
-                             : tr("profiles");
-    QString file = Modal::saveFileName(this, windowTitle(),
-                                       QDir::home().filePath(name + QStringLiteral(".json")),
-                                       tr("Profiles (*.json)"));
-    if (!file.isEmpty() && exportTo(file))
-        accept();
+    QString name = chosen.size() == 1
+                       ? m_context.store().state().profileName(m_context.owner(), chosen[0])
+                       : tr("profiles");
+    for (QChar &letter : name) {
+        if (QStringLiteral("/\\:*?\"<>|").contains(letter))
+            letter = QLatin1Char('-');
+    }
+    return name + QStringLiteral(".json");
+}
+
+void ExportDlg::chooseFile()
+{
+    const QString start = ExchangeFolder::of(m_context.store()) + QLatin1Char('/');
+    QString file =
+        Modal::saveFileName(this, windowTitle(), start + suggestedName(), tr("Profiles (*.json)"));
+    if (file.isEmpty())
+        return;
+    // nobody was asked about a file of the longer name
+    const QString withSuffix = file + QStringLiteral(".json");
+    if (QFileInfo(file).suffix().isEmpty() && !QFileInfo::exists(withSuffix))
+        file = withSuffix;
+    if (!exportTo(file))
+        return;
+    ExchangeFolder::remember(m_context.store(), file);
+    accept();
 }
 
 bool ExportDlg::exportTo(const QString &fileName)

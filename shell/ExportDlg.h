@@ -28,6 +28,7 @@ private:
     void fill();
     void checkAll(bool checked);
     void showState();
+    QString suggestedName() const;
     void chooseFile();
 
     ShellContext &m_context;

@@ -1,11 +1,11 @@
 #include "shell/ImportDlg.h"
 
 #include "interfaces/Modal.h"
+#include "shell/ExchangeFolder.h"
 #include "shell/ShellStyle.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -85,17 +85,18 @@ ImportDlg::ImportDlg(ShellContext &context, QWidget *parent)
 
 void ImportDlg::chooseFile()
 {
-    const QString dir = m_fileName.isEmpty() ? QDir::homePath() : m_fileName;
     const QString file =
-        Modal::openFileName(this, windowTitle(), dir, tr("Profiles (*.json);;All files (*)"));
-    if (!file.isEmpty())
-        openFile(file);
+        Modal::openFileName(this, windowTitle(), ExchangeFolder::of(m_context.store()),
+                            tr("Profiles (*.json);;All files (*)"));
+    if (file.isEmpty())
+        return;
+    ExchangeFolder::remember(m_context.store(), file);
+    openFile(file);
 }
 
 bool ImportDlg::openFile(const QString &fileName)
 {
     const QString shortName = QFileInfo(fileName).fileName();
-    m_fileName = fileName;
     m_content = ExchangeContent();
     m_isRead = false;
     m_file->setText(shortName);

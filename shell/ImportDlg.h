@@ -37,7 +37,6 @@ private:
 
     ShellContext &m_context;
     ExchangeContent m_content;
-    QString m_fileName;
     QLabel *m_file;
     QTreeWidget *m_list;
     QLabel *m_macros;

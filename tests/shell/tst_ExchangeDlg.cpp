@@ -1,3 +1,4 @@
+#include "shell/ExchangeFolder.h"
 #include "shell/ExportDlg.h"
 #include "shell/ImportDlg.h"
 
@@ -8,6 +9,7 @@
 #include "vocabulary/AppTables.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -26,6 +28,8 @@ private slots:
     void allAndNone();
     void macrosAreNamed();
     void exportByTheUser();
+    void suffixIsAdded();
+    void folderIsRemembered();
     void exportThatCannotBeWritten();
     void oneProfileGoesInPlaceOfTheShownOne();
     void severalGoWhereTheyCameFrom();
@@ -130,6 +134,41 @@ void tst_ExchangeDlg::exportByTheUser()
     QVERIFY(written.open(QIODevice::ReadOnly));
     QCOMPARE(written.readAll(), json({2}));
     QCOMPARE(said[0][0].toString(), QStringLiteral("One profile was exported to out.json."));
+}
+
+void tst_ExchangeDlg::suffixIsAdded()
+{
+    QString answer = file("mine");
+    Modal::setAnswerer([&](const ModalPrompt &) { return QVariant(answer); });
+    const auto exportAgain = [this] {
+        ExportDlg dialog(m_shell->context);
+        clickOn(child<QPushButton>(&dialog, "m_exportBtn"));
+        return dialog.result();
+    };
+    QCOMPARE(exportAgain(), int(QDialog::Accepted));
+    QVERIFY(QFile::exists(file("mine.json")));
+    QVERIFY(!QFile::exists(file("mine")));
+    // the user agreed to replace "mine", not "mine.json"
+    QFile other(file("mine.json"));
+    QVERIFY(other.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    other.close();
+    QCOMPARE(exportAgain(), int(QDialog::Accepted));
+    QCOMPARE(QFileInfo(file("mine.json")).size(), qint64(0));
+    QVERIFY(QFile::exists(file("mine")));
+    answer.clear();
+    QCOMPARE(exportAgain(), int(QDialog::Rejected));
+}
+
+void tst_ExchangeDlg::folderIsRemembered()
+{
+    QVERIFY(QDir(m_shell->folder.path()).mkdir(QStringLiteral("sub")));
+    QCOMPARE(ExchangeFolder::of(store()), QDir::homePath());
+    Modal::setAnswerer([&](const ModalPrompt &) { return QVariant(file("sub/mine.json")); });
+    ExportDlg dialog(m_shell->context);
+    clickOn(child<QPushButton>(&dialog, "m_exportBtn"));
+    QCOMPARE(ExchangeFolder::of(store()), file("sub"));
+    QVERIFY(QDir(file("sub")).removeRecursively());
+    QCOMPARE(ExchangeFolder::of(store()), QDir::homePath());
 }
 
 void tst_ExchangeDlg::exportThatCannotBeWritten()

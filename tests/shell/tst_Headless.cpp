@@ -3,6 +3,7 @@
 #include "ShellFixture.h"
 #include "support/TestMain.h"
 
+#include <QDir>
 #include <QImage>
 #include <QProcess>
 #include <QTextStream>
@@ -20,6 +21,8 @@ private slots:
     void program();
     void programWithoutDisplay();
     void programKeepsItsDataFolder();
+    void brokenStore_data();
+    void brokenStore();
     void badOptions_data();
     void badOptions();
 
@@ -131,6 +134,43 @@ void tst_Headless::programKeepsItsDataFolder()
         run(QStringList(data) << QStringLiteral("--print-profile") << QStringLiteral("--profile")
                               << QStringLiteral("3"));
     QCOMPARE(text.simplified().count("7 W KEYBOARD 5 B"), 2);
+}
+
+void tst_Headless::brokenStore_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("no store") << QByteArray("This is not a store of profiles.\n").repeated(99);
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("cut") << QByteArray("SQLite format 3\0\x10\0\1\1\0\x40\x20\x20", 24);
+}
+
+/// The program says in plain words what is wrong, keeps the file, and works all the same.
+void tst_Headless::brokenStore()
+{
+    QFETCH(QByteArray, bytes);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("profiles.sqlite")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    file.close();
+    int exitCode = -1;
+    QByteArray errors;
+    const QByteArray text =
+        run({QStringLiteral("--data"), folder.path(), QStringLiteral("--headless")}, &errors,
+            &exitCode);
+    QCOMPARE(exitCode, 0);
+    QCOMPARE(text.count('\n'), 30);
+    if (bytes.isEmpty())
+        return; // nothing is lost
+    QVERIFY2(errors.contains("is damaged and cannot be read"), errors);
+    bool isKept = false;
+    const auto names = QDir(folder.path()).entryList(QDir::Files);
+    for (const QString &name : names) {
+        QFile kept(folder.filePath(name));
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        isKept |= kept.readAll() == bytes;
+    }
+    QVERIFY(isKept);
 }
 
 void tst_Headless::badOptions_data()

@@ -14,6 +14,7 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include <cstring>
 #include <memory>
 #include <random>
 
@@ -51,6 +52,7 @@ private slots:
     void captureEndsElsewhere();
     void reopening();
     void reopeningWithNothingToApply();
+    void anyBytesAreShown();
     void secondShell();
     void fullDisk();
     void titleAndCounts();
@@ -555,6 +557,36 @@ void tst_MainWindow::fullDisk()
     m_shell->store().setPageLimit(0);
     QVERIFY(m_shell->store().flush());
     QCOMPARE(saved->text(), QStringLiteral("Saved"));
+}
+
+/// A store may hold anything: every key with any bytes is shown, selected and listed.
+void tst_MainWindow::anyBytesAreShown()
+{
+    std::mt19937 random(42);
+    m_window->showPage(ShellPage::Changes);
+    for (int round = 0; round < 12; ++round) {
+        for (int index = 0; index < KeyCount; ++index) {
+            std::array<quint8, sizeof(vantrix_key_mapping)> bytes;
+            for (quint8 &byte : bytes)
+                byte = quint8(random());
+            if (round % 2)
+                bytes[0] = quint8(random() % 4);
+            vantrix_key_mapping mapping;
+            std::memcpy(&mapping, bytes.data(), bytes.size());
+            m_shell->store().setKeyMapping(0, 0, index, &mapping);
+        }
+        m_shell->store().setMode(0, 0, round % 4 / 2);
+        m_shell->store().setInput(0, 0, int(random() % 13));
+        m_shell->store().flush();
+        m_window->mappingView()->refresh();
+        for (int index = 0; index < KeyCount; ++index)
+            emit m_shell->context.goTo(0, index);
+        m_window->showPage(ShellPage(1 + round % 5));
+        QCoreApplication::processEvents();
+        click("m_apply");
+        m_shell->store().flush();
+        QVERIFY(!m_shell->device().differs(0, 0));
+    }
 }
 
 void tst_MainWindow::secondShell()

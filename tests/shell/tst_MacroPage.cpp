@@ -17,6 +17,7 @@
 #include <QTreeWidget>
 
 #include <memory>
+#include <random>
 
 class tst_MacroPage : public QObject
 {
@@ -59,6 +60,8 @@ private slots:
     void changesBehindItsBackAreShown();
     void beginForAKeyAndBack();
     void beginForAKeyAndBackWithNothing();
+    void anyOrderOfGestures_data();
+    void anyOrderOfGestures();
     void foreignBytesStay();
     void keysFollowTheLanguage();
     void narrowAndWide();
@@ -611,6 +614,70 @@ void tst_MacroPage::beginForAKeyAndBackWithNothing()
     click("m_backBtn");
     QVERIFY(names().isEmpty());
     QCOMPARE(removed.count(), 1);
+}
+
+void tst_MacroPage::anyOrderOfGestures_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= 4; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+/// Whatever is done in whatever order, the page shows what the store has.
+void tst_MacroPage::anyOrderOfGestures()
+{
+    QFETCH(quint32, seed);
+    std::mt19937 random(seed);
+    const auto any = [&random](int count) {
+        return int(random() % quint32(count));
+    };
+    const QStringList buttons = {QStringLiteral("m_newBtn"),    QStringLiteral("m_duplicateBtn"),
+                                 QStringLiteral("m_deleteBtn"), QStringLiteral("m_addEventBtn"),
+                                 QStringLiteral("m_upBtn"),     QStringLiteral("m_downBtn"),
+                                 QStringLiteral("m_recordBtn"), QStringLiteral("m_deleteEventBtn"),
+                                 QStringLiteral("m_backBtn"),   QStringLiteral("m_setDelaysBtn")};
+    const std::vector<std::function<void()>> others = {
+        [this] { store().undo(); },
+        [this] { store().undo(); },
+        [this] { store().redo(); },
+        [this] { emit m_shell->context.newMacroRequested(); },
+        [this] { type(0x1E, 0x41, 5); },
+        [this] { type(0x30, 0x42, 5); },
+        [this] {
+            m_page->hide();
+            m_page->show();
+        },
+        [&] { table()->selectRow(any(6)); },
+        [&] {
+            if (QTreeWidgetItem *const item = list()->topLevelItem(any(5)))
+                list()->setCurrentItem(item);
+        },
+        [&] { store().setNamedMacroKey(0, any(3), m_page->currentMacro().toStdString(), any(28)); },
+        [&] {
+            if (QTreeWidgetItem *const item = list()->topLevelItem(any(4)))
+                item->setText(1, QStringLiteral("N%1").arg(any(6)));
+        },
+        [&] { child<QComboBox>("m_delayMode")->setCurrentIndex(any(3)); },
+    };
+    for (int i = 0; i < 400; ++i) {
+        const int choice = any(buttons.size() + int(others.size()));
+        if (choice < buttons.size())
+            child<QPushButton>(qPrintable(buttons[choice]))->click();
+        else
+            others[std::size_t(choice - buttons.size())]();
+        store().flush();
+        QStringList listed;
+        for (int row = 0; row < list()->topLevelItemCount(); ++row)
+            listed << list()->topLevelItem(row)->text(1);
+        QCOMPARE(listed, names());
+        QVERIFY(names().isEmpty() ? m_page->currentMacro().isEmpty()
+                                  : names().contains(m_page->currentMacro()));
+        if (child<QLabel>("m_recordPad")->isVisible() || names().isEmpty())
+            continue;
+        const auto macro = store().state().macro(0, m_page->currentMacro());
+        QVERIFY(static_cast<MacroEventModel *>(table()->model())->events() ==
+                MacroEventModel::eventsOf(*macro));
+    }
 }
 
 void tst_MacroPage::foreignBytesStay()

@@ -647,7 +647,7 @@ Veuillez attribuer 1 à l’outil Rectangle arrondi dans Illustrator (Alt+Maj+Ct
     </message>
     <message>
         <source>EFFECT CYCLE+</source>
-        <translation>EFFET SUIVANT+</translation>
+        <translation>EFFET SUIV.+</translation>
     </message>
     <message>
         <source>Power Mode:Disable</source>
@@ -727,7 +727,7 @@ Veuillez attribuer 1 à l’outil Rectangle arrondi dans Illustrator (Alt+Maj+Ct
     </message>
     <message>
         <source>EFFECT CYCLE-</source>
-        <translation>EFFET PRÉCÉDENT-</translation>
+        <translation>EFFET PRÉC.-</translation>
     </message>
     <message>
         <source>SPEED DOWN LED EFFECT-</source>

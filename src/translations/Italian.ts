@@ -647,7 +647,7 @@ Assegnare 1 allo strumento Rettangolo arrotondato in Illustrator (Alt+Maiusc+Ctr
     </message>
     <message>
         <source>EFFECT CYCLE+</source>
-        <translation>EFFETTO SUCCESSIVO+</translation>
+        <translation>EFFETTO SUCC.+</translation>
     </message>
     <message>
         <source>Power Mode:Disable</source>
@@ -727,7 +727,7 @@ Assegnare 1 allo strumento Rettangolo arrotondato in Illustrator (Alt+Maiusc+Ctr
     </message>
     <message>
         <source>EFFECT CYCLE-</source>
-        <translation>EFFETTO PRECEDENTE-</translation>
+        <translation>EFFETTO PREC.-</translation>
     </message>
     <message>
         <source>SPEED DOWN LED EFFECT-</source>

@@ -647,7 +647,7 @@ Illustrator で角丸長方形ツールに 1 を割り当ててください (Alt
     </message>
     <message>
         <source>EFFECT CYCLE+</source>
-        <translation>次のエフェクト+</translation>
+        <translation>効果 次へ+</translation>
     </message>
     <message>
         <source>Power Mode:Disable</source>
@@ -723,19 +723,19 @@ Illustrator で角丸長方形ツールに 1 を割り当ててください (Alt
     </message>
     <message>
         <source>CALIBRATE</source>
-        <translation>キャリブレーション</translation>
+        <translation>較正</translation>
     </message>
     <message>
         <source>EFFECT CYCLE-</source>
-        <translation>前のエフェクト-</translation>
+        <translation>効果 前へ-</translation>
     </message>
     <message>
         <source>SPEED DOWN LED EFFECT-</source>
-        <translation>LED エフェクトを遅く-</translation>
+        <translation>LED 効果を遅く-</translation>
     </message>
     <message>
         <source>SPEED UP LED EFFECT+</source>
-        <translation>LED エフェクトを速く+</translation>
+        <translation>LED 効果を速く+</translation>
     </message>
     <message>
         <source>D PAD UP RIGHT</source>
@@ -1304,7 +1304,7 @@ Illustrator で角丸長方形ツールに 1 を割り当ててください (Alt
     <name>PressoFunUi</name>
     <message>
         <source>DEADZONE CALIBRATION</source>
-        <translation>デッドゾーンのキャリブレーション</translation>
+        <translation>デッドゾーンの較正</translation>
     </message>
 </context>
 <context>

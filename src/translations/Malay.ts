@@ -647,7 +647,7 @@ Sila tetapkan 1 kepada alat Segi Empat Bucu Bulat dalam Illustrator (Alt+Shift+C
     </message>
     <message>
         <source>EFFECT CYCLE+</source>
-        <translation>KESAN BERIKUTNYA+</translation>
+        <translation>KESAN BERIKUT+</translation>
     </message>
     <message>
         <source>Power Mode:Disable</source>
@@ -727,7 +727,7 @@ Sila tetapkan 1 kepada alat Segi Empat Bucu Bulat dalam Illustrator (Alt+Shift+C
     </message>
     <message>
         <source>EFFECT CYCLE-</source>
-        <translation>KESAN SEBELUMNYA-</translation>
+        <translation>KESAN SEBELUM-</translation>
     </message>
     <message>
         <source>SPEED DOWN LED EFFECT-</source>

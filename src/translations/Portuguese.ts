@@ -647,7 +647,7 @@ Atribua 1 à ferramenta Retângulo arredondado no Illustrator (Alt+Shift+Ctrl+K)
     </message>
     <message>
         <source>EFFECT CYCLE+</source>
-        <translation>EFEITO SEGUINTE+</translation>
+        <translation>EFEITO SEG.+</translation>
     </message>
     <message>
         <source>Power Mode:Disable</source>
@@ -727,7 +727,7 @@ Atribua 1 à ferramenta Retângulo arredondado no Illustrator (Alt+Shift+Ctrl+K)
     </message>
     <message>
         <source>EFFECT CYCLE-</source>
-        <translation>EFEITO ANTERIOR-</translation>
+        <translation>EFEITO ANT.-</translation>
     </message>
     <message>
         <source>SPEED DOWN LED EFFECT-</source>

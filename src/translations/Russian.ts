@@ -647,7 +647,7 @@ Please assign 1 to Rounded Rectangle Tool in Illustrator(Alt+Shift+Ctrl+K)</sour
     </message>
     <message>
         <source>EFFECT CYCLE+</source>
-        <translation>СЛЕДУЮЩИЙ ЭФФЕКТ+</translation>
+        <translation>ЭФФЕКТ ДАЛЕЕ+</translation>
     </message>
     <message>
         <source>Power Mode:Disable</source>
@@ -667,11 +667,11 @@ Please assign 1 to Rounded Rectangle Tool in Illustrator(Alt+Shift+Ctrl+K)</sour
     </message>
     <message>
         <source>LED DARKER-</source>
-        <translation>ПОДСВЕТКА ТЕМНЕЕ-</translation>
+        <translation>LED ТЕМНЕЕ-</translation>
     </message>
     <message>
         <source>LED BRIGHTER+</source>
-        <translation>ПОДСВЕТКА ЯРЧЕ+</translation>
+        <translation>LED ЯРЧЕ+</translation>
     </message>
     <message>
         <source>L TRIGGER</source>
@@ -727,15 +727,15 @@ Please assign 1 to Rounded Rectangle Tool in Illustrator(Alt+Shift+Ctrl+K)</sour
     </message>
     <message>
         <source>EFFECT CYCLE-</source>
-        <translation>ПРЕДЫДУЩИЙ ЭФФЕКТ-</translation>
+        <translation>ЭФФЕКТ НАЗАД-</translation>
     </message>
     <message>
         <source>SPEED DOWN LED EFFECT-</source>
-        <translation>ЭФФЕКТ МЕДЛЕННЕЕ-</translation>
+        <translation>ЭФФЕКТ LED МЕДЛЕННЕЕ-</translation>
     </message>
     <message>
         <source>SPEED UP LED EFFECT+</source>
-        <translation>ЭФФЕКТ БЫСТРЕЕ+</translation>
+        <translation>ЭФФЕКТ LED БЫСТРЕЕ+</translation>
     </message>
     <message>
         <source>D PAD UP RIGHT</source>

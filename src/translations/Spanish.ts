@@ -647,7 +647,7 @@ Asigne 1 a la herramienta Rectángulo redondeado en Illustrator (Alt+Mayús+Ctrl
     </message>
     <message>
         <source>EFFECT CYCLE+</source>
-        <translation>EFECTO SIGUIENTE+</translation>
+        <translation>EFECTO SIG.+</translation>
     </message>
     <message>
         <source>Power Mode:Disable</source>
@@ -727,7 +727,7 @@ Asigne 1 a la herramienta Rectángulo redondeado en Illustrator (Alt+Mayús+Ctrl
     </message>
     <message>
         <source>EFFECT CYCLE-</source>
-        <translation>EFECTO ANTERIOR-</translation>
+        <translation>EFECTO ANT.-</translation>
     </message>
     <message>
         <source>SPEED DOWN LED EFFECT-</source>

@@ -647,7 +647,7 @@ Please assign 1 to Rounded Rectangle Tool in Illustrator(Alt+Shift+Ctrl+K)</sour
     </message>
     <message>
         <source>EFFECT CYCLE+</source>
-        <translation>เอฟเฟกต์ถัดไป+</translation>
+        <translation>เอฟเฟกต์ ถัดไป+</translation>
     </message>
     <message>
         <source>Power Mode:Disable</source>
@@ -727,7 +727,7 @@ Please assign 1 to Rounded Rectangle Tool in Illustrator(Alt+Shift+Ctrl+K)</sour
     </message>
     <message>
         <source>EFFECT CYCLE-</source>
-        <translation>เอฟเฟกต์ก่อนหน้า-</translation>
+        <translation>เอฟเฟกต์ ก่อนหน้า-</translation>
     </message>
     <message>
         <source>SPEED DOWN LED EFFECT-</source>

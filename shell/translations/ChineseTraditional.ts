@@ -16,22 +16,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Key</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The device has</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>APPLY makes it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Function</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The device has %1 as it is shown.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -53,6 +37,22 @@
     </message>
     <message>
         <source>Put back %1 keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>KEY</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>THE DEVICE HAS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APPLY MAKES IT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FUNCTION</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -5,9 +5,9 @@
     <name>StepName</name>
     <message numerus="yes">
         <source>Change %n key(s) in several profiles</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Change %n key in several profiles</numerusform>
+            <numerusform>Change %n keys in several profiles</numerusform>
         </translation>
     </message>
 </context>

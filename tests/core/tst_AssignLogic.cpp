@@ -812,7 +812,14 @@ void tst_AssignLogic::gamePreset()
     QCOMPARE(m->stored(12), gameKey(222));
     QCOMPARE(m->stored(13), gameKey(730));
     QCOMPARE(m->key(7)->mapping(), gameKey(223));
-    QCOMPARE(m->writes().last(), QString("setProfileDirty 1"));
+    QStringList expected;
+    for (int index = 0; index < 28; ++index)
+        expected << QString("setKeyMapping %1").arg(index) << "setProfileDirty 1";
+    expected << "setKeyMappings 28";
+    for (int index : {7, 11, 12, 13})
+        expected << QString("setKeyMapping %1").arg(index) << "setProfileDirty 1";
+    expected << "setProfileDirty 1";
+    QCOMPARE(m->calls(), expected);
 }
 
 void tst_AssignLogic::appPreset()
@@ -826,6 +833,23 @@ void tst_AssignLogic::appPreset()
     QCOMPARE(int(m->profile().apps.at(4).funcId), 10);
     QCOMPARE(int(m->profile().apps.at(19).funcId), 14);
     QCOMPARE(int(m->key(1)->mapping().type), 1);
+    QStringList expected;
+    for (int index = 0; index < 28; ++index) {
+        const QString place = QString::number(index);
+        expected << "setKeyMapping " + place << "setProfileDirty 1";
+        // LAUNCH AI, BRUSH OPACITY, MAGNIFYING and BRUSH SIZE are plain codes to the device.
+        if (index == 4 || index == 9 || index == 11 || index == 14)
+            expected << "setKeyMapping " + place;
+        if (index >= 1 && index <= 19)
+            expected << "setAppAssign " + place << "setProfileDirty 1";
+    }
+    expected << "setProfileDirty 1";
+    QCOMPARE(m->calls(), expected);
+    QCOMPARE(m->stored(4), plainKey(766));
+    QCOMPARE(m->stored(9), plainKey(703));
+    QCOMPARE(m->stored(11), plainKey(702));
+    QCOMPARE(m->stored(14), plainKey(700));
+    QCOMPARE(m->stored(1), plainKey(255));
     // The one that starts the program is warned of, once all keys are done.
     QCOMPARE(m->warnings.size(), 1);
     QVERIFY(m->warnings.at(0).endsWith("ILLUSTRATOR"));

@@ -1,5 +1,7 @@
 #include "core/AssignWid.h"
 
+#include "core/PadPicture.h"
+#include "core/StyleHold.h"
 #include "interfaces/ButtonGroupEx.h"
 #include "interfaces/IVantrixProfileCfg.h"
 #include "interfaces/MsgBox.h"
@@ -9,9 +11,6 @@
 
 #include "ui_AssignUi.h"
 
-#include <QBitmap>
-#include <QLabel>
-#include <QPainter>
 #include <QPointer>
 
 #include <algorithm>
@@ -25,55 +24,16 @@ constexpr int WideKey = 23;
 // Measures of the pad's picture, which is drawn on a ground of 150 by 260.
 constexpr int PictureWidth = 150;
 constexpr int PictureHeight = 260;
-constexpr int UpperPart = 65;           ///< what simple mode cuts away
-constexpr qreal GroundPart = 25. / 425; ///< height of the ground below the pad, in picture widths
-
-constexpr int RegionTrim = 15; ///< pixels that the pad's region loses at the bottom
 
 IVantrixProfileCfg *store()
 {
     return IVantrixProfileCfg::Instance();
 }
 
-/// Leaves no more of the ground below the pad than the region loses, so that the region ends with
-/// the pad.
-void cutGround(QPixmap *picture, const QSize &size)
-{
-    const int excess = qRound(size.width() * GroundPart) - RegionTrim;
-    if (excess <= 0)
-        return;
-    QPainter painter(picture);
-    painter.setCompositionMode(QPainter::CompositionMode_Clear);
-    painter.fillRect(0, size.height() - excess, size.width(), excess, Qt::transparent);
-}
-
-/// Holds back the colours of all keys while it lives.
-class StyleHold
-{
-public:
-    explicit StyleHold(const ButtonGroupEx *keys) : m_keys(keys)
-    {
-        forEach(&VantrixKey::beginUpdate);
-    }
-    ~StyleHold() { forEach(&VantrixKey::endUpdate); }
-    StyleHold(const StyleHold &) = delete;
-    StyleHold &operator=(const StyleHold &) = delete;
-
-private:
-    void forEach(void (VantrixKey::*operation)())
-    {
-        const auto buttons = m_keys->buttons();
-        for (QAbstractButton *const button : buttons)
-            (static_cast<VantrixKey *>(button)->*operation)();
-    }
-
-    const ButtonGroupEx *m_keys;
-};
-
 } // namespace
 
 AssignWid::AssignWid(QWidget *parent)
-    : QWidget(parent), m_ui(std::make_unique<Ui::AssignUi>()), m_picture(new QLabel(this)),
+    : QWidget(parent), m_ui(std::make_unique<Ui::AssignUi>()), m_picture(new PadPicture(this)),
       m_below(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Fixed)),
       m_keys(new ButtonGroupEx(this))
 {
@@ -138,27 +98,11 @@ void AssignWid::setScope(int iOwner, int iProfile)
 
 // Geometry
 
-QPixmap AssignWid::pictureFor(int mode) const
-{
-    const bool isDense = devicePixelRatioF() > 1;
-    const QPixmap whole(isDense ? QStringLiteral(":/VantrixMap/vantrix@2x.png")
-                                : QStringLiteral(":/VantrixMap/vantrix.png"));
-    const int cut = mode == Mode::Simple ? whole.height() * UpperPart / PictureHeight : 0;
-    return whole.copy(0, cut, whole.width(), whole.height() - cut);
-}
-
 void AssignWid::layoutForMode(int mode)
 {
-    const QPixmap source = pictureFor(mode);
-    const QSize fitted = source.size().scaled(size(), Qt::KeepAspectRatio);
+    const QSize fitted = m_picture->showPart(mode, size());
     const int w = fitted.width();
     const int h = fitted.height();
-    const qreal ratio = devicePixelRatioF();
-    QPixmap picture =
-        source.scaled(fitted * ratio, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    picture.setDevicePixelRatio(ratio);
-    cutGround(&picture, fitted);
-    m_picture->setPixmap(picture);
     const int x = std::max(0, (width() - w) / 2);
     m_picture->setGeometry(x, 0, w, h);
 
@@ -194,27 +138,7 @@ void AssignWid::updateUpperKeys(int mode, int input)
 
 QRegion AssignWid::keyBoardRegion(const QWidget *mainWid) const
 {
-    const QPixmap picture = m_picture->pixmap(Qt::ReturnByValue);
-    if (!mainWid || !picture.hasAlphaChannel())
-        return {};
-    // A mask counts device pixels, a region those of the window.
-    const QPixmap flat = picture.scaled(m_picture->size());
-    QRegion outline(flat.mask());
-    outline.translate(mainWid->mapFromGlobal(m_picture->mapToGlobal(QPoint(0, 0))));
-
-    std::vector<QRect> rects(outline.begin(), outline.end());
-    if (rects.empty())
-        return {};
-    const auto shorter = [](const QRect &a, const QRect &b) {
-        return a.height() <= b.height();
-    };
-    const auto tallest = std::max_element(rects.begin(), rects.end(), shorter);
-    rects.front().adjust(6, 0, -5, 0);
-    tallest->adjust(0, 0, -1, -RegionTrim);
-    rects.erase(tallest + 1, rects.end());
-    QRegion region;
-    region.setRects(rects.data(), int(rects.size()));
-    return region;
+    return m_picture->outlineIn(mainWid);
 }
 
 // Selection

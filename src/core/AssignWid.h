@@ -3,7 +3,6 @@
 #include "core/VantrixKey.h"
 #include "core/records.h"
 
-#include <QPixmap>
 #include <QRegion>
 #include <QWidget>
 
@@ -13,8 +12,8 @@
 #include <vector>
 
 class ButtonGroupEx;
+class PadPicture;
 class QAbstractButton;
-class QLabel;
 class QSpacerItem;
 namespace Ui {
 class AssignUi;
@@ -129,7 +128,6 @@ private:
     VantrixKey *selectedButton(int *keyIdx);
     void announce(int keyIdx);
     void updateUpperKeys(int mode, int input);
-    QPixmap pictureFor(int mode) const;
 
     void writeKey(int keyIdx, const vantrix_key_mapping &mapping, Save save);
     void tellSpecialKeys(VantrixKey *button, int keyIdx, ushort newCode);
@@ -156,7 +154,7 @@ private:
     const std::unique_ptr<Ui::AssignUi> m_ui;
     int m_iOwner = 0;
     int m_iProfile = 0;
-    QLabel *m_picture;
+    PadPicture *m_picture;
     QSpacerItem *m_below;
     ButtonGroupEx *m_keys;
     std::map<int, vantrix_key_mapping> m_dualStage;

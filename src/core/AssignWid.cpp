@@ -418,13 +418,23 @@ void AssignWid::slotAssignedKey(QString strMacroNo, QString strMacroName,
                                 std::map<uchar, uchar> assign)
 {
     for (const auto &[keyIdx, value] : assign) {
-        VantrixKey *const button = keyButton(keyIdx);
-        if (!button)
-            continue;
-        button->showMacro(strMacroNo, strMacroName);
-        if (keyIdx == currentKey())
-            emit sigMacroSelected(strMacroNo);
+        if (keyButton(keyIdx))
+            showMacroLabel(keyIdx, strMacroNo, strMacroName);
     }
+}
+
+/// A key whose dual action is pending goes on showing that, and gets its new label back with BACK.
+void AssignWid::showMacroLabel(int keyIdx, const QString &text, const QString &toolTip)
+{
+    const auto pending = m_keyBackup.find(keyIdx);
+    if (pending != m_keyBackup.end()) {
+        pending->second.mapping.type = KeyType::Label;
+        pending->second.label = {InputType::Macro, text, toolTip};
+        return;
+    }
+    keyButton(keyIdx)->showMacro(text, toolTip);
+    if (keyIdx == currentKey())
+        emit sigMacroSelected(text);
 }
 
 void AssignWid::slotRenameMacro(QString strMacroNo, QString strMacroName)
@@ -457,13 +467,10 @@ void AssignWid::slotUpdateWinShortcutKeys()
         return;
     const int base = store()->getShortcutBase(m_iOwner, m_iProfile) + 1;
     for (const auto &[keyIdx, shortcutId] : shortcuts) {
-        VantrixKey *const button = keyButton(keyIdx);
-        if (!button)
+        if (!keyButton(keyIdx))
             return;
-        const QString text = QLatin1Char('M') + QString::number(base + shortcutId);
-        button->showMacro(text, winShortcutText(shortcutId));
-        if (keyIdx == currentKey())
-            emit sigMacroSelected(text);
+        showMacroLabel(keyIdx, QLatin1Char('M') + QString::number(base + shortcutId),
+                       winShortcutText(shortcutId));
     }
 }
 

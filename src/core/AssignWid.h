@@ -140,6 +140,7 @@ private:
     void clearKeyForLabel(int keyIdx);
     bool hasRoomForMacro();
 
+    void showMacroLabel(int keyIdx, const QString &text, const QString &toolTip);
     void showAppFunction(VantrixKey *button, int appType, int funcId);
     void storeAppFunction(int keyIdx, int appType, int funcId);
     void warnOfMissingPaths();

@@ -57,6 +57,7 @@ private slots:
     void backAfterAFailedRead();
     void backWithNoEntries();
     void renamedMacroComesBackRenamed();
+    void renumberedLabelsComeBackRenumbered();
     void newerAssignmentEndsTheEdit_data();
     void newerAssignmentEndsTheEdit();
     void stagedKeyIsAnnouncedAsStaged();
@@ -735,6 +736,32 @@ void tst_AssignLogic::renamedMacroComesBackRenamed()
     QCOMPARE(m->key(7)->text(), QString("M3"));
     QCOMPARE(m->key(7)->toolTip(), QString("drei"));
     QCOMPARE(m->key(8)->toolTip(), QString("four"));
+}
+
+void tst_AssignLogic::renumberedLabelsComeBackRenumbered()
+{
+    m->profile().shortcuts[8] = 2;
+    m->board.showProfile(7, 3);
+    m->board.slotAssignedKey("M4", "four", {{7, 0}});
+    for (int index : {8, 7}) {
+        m->key(index)->click();
+        m->board.slotDualActionAssigned(staged(5, 6, 40));
+    }
+    QSignalSpy told(&m->board, &AssignWid::sigMacroSelected);
+    m->store.shortcutBase = 4;
+    m->board.slotUpdateWinShortcutKeys();
+    m->board.slotAssignedKey("M3", "four", {{7, 0}});
+    // What is pending goes on showing, and so do the panels.
+    QCOMPARE(told.count(), 0);
+    for (int index : {7, 8})
+        QCOMPARE(m->key(index)->mapping(), staged(5, 6, 40));
+    m->board.slotDualActionBack();
+    QCOMPARE(m->key(7)->text(), QString("M3"));
+    QCOMPARE(m->key(8)->text(), QString("M7"));
+    // Nothing is pending any more.
+    m->board.slotAssignedKey("M2", "four", {{7, 0}});
+    QCOMPARE(m->key(7)->text(), QString("M2"));
+    QCOMPARE(told.count(), 1);
 }
 
 void tst_AssignLogic::anotherProfileEndsTheEdit()

@@ -33,6 +33,8 @@ constexpr int RoomForBoth = 1180;
 constexpr int SideWidth = 430;
 /// Width of the window below which the profiles are a strip of numbers.
 constexpr int RoomForNames = 1180;
+/// Room for the name of a profile outside the list.
+constexpr int NameRoom = 120;
 constexpr QSize InitialSize(1384, 800);
 constexpr QSize MinimumSize(900, 600);
 
@@ -120,11 +122,14 @@ QWidget *MainWindow::makeBar()
     m_shown->setObjectName(QStringLiteral("m_shownLab"));
     m_shown->setContentsMargins(4, 0, 10, 0);
     m_shown->setTextFormat(Qt::PlainText);
+    m_shown->setMinimumWidth(0);
+    m_shown->setMaximumWidth(NameRoom + m_shown->contentsMargins().right());
+    m_shown->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_tabs->setExclusive(true);
     addTab(ShellPage::Mapping, tr("MAPPING"), tabLayout);
     for (const ShellPages::Entry &entry : m_pages)
         addTab(entry.page, entry.title, tabLayout);
-    layout->addWidget(m_shown);
+    layout->addWidget(m_shown, 2);
     layout->addWidget(tabs);
     layout->addStretch(1);
     m_findBar = ShellPages::makeFindBar(m_context, bar);
@@ -156,6 +161,8 @@ void MainWindow::makeStatusBar()
     m_applied = new QLabel(this);
     m_saved = new QLabel(this);
     m_status->setObjectName(QStringLiteral("m_statusLab"));
+    m_applied->setTextFormat(Qt::PlainText);
+    m_status->setTextFormat(Qt::PlainText);
     m_applied->setObjectName(QStringLiteral("m_appliedLab"));
     m_saved->setObjectName(QStringLiteral("m_savedLab"));
     m_status->setContentsMargins(8, 0, 0, 0);
@@ -397,6 +404,12 @@ void MainWindow::updateSteps()
 
 // ---- state ----
 
+/// A name must not make the window wider.
+QString MainWindow::narrowed(const QString &name) const
+{
+    return fontMetrics().elidedText(name, Qt::ElideRight, NameRoom);
+}
+
 QString MainWindow::statusText() const
 {
     return m_status->text();
@@ -413,8 +426,10 @@ void MainWindow::updateState()
     const QString pending = count == 0   ? tr("nothing to apply")
                             : count == 1 ? tr("1 key to apply")
                                          : tr("%1 keys to apply").arg(count);
-    m_applied->setText(tr("Device: %1   |   %2   |").arg(device, pending));
-    m_shown->setText(name);
+    m_applied->setText(tr("Device: %1   |   %2   |").arg(narrowed(device), pending));
+    m_applied->setToolTip(device);
+    m_shown->setText(narrowed(name));
+    m_shown->setToolTip(name);
     m_saved->setText(store.isReadOnly() ? tr("READ ONLY")
                      : store.isSaved()  ? tr("Saved")
                                         : tr("NOT SAVED"));

@@ -61,6 +61,7 @@ private:
     void arrange();
     void follow(const std::optional<StepOutcome> &outcome, const QString &text, int shown);
     void updateSteps();
+    QString narrowed(const QString &name) const;
     void updateState();
     void onSettingChanged(const QString &name);
 

@@ -134,7 +134,7 @@ QString ShellStyle::panelSheet()
 QString ShellStyle::tabSheet()
 {
     return QStringLiteral("QPushButton{background:transparent;border:none;color:%1;"
-                          "padding:8px 12px;border-bottom:3px solid transparent;}"
+                          "padding:8px 8px;border-bottom:3px solid transparent;}"
                           "QPushButton:hover{color:%2;}"
                           "QPushButton:checked{color:%2;border-bottom-color:%3;}"
                           "QPushButton:focus{background:%4;}")

@@ -44,6 +44,7 @@ private slots:
     void removedMacroLeavesTheKeys();
     void pagesShareTheRoom();
     void profilesShrink();
+    void longNamesDoNotWidenTheWindow();
     void goToShowsTheKey();
     void goToInTheShownProfile();
     void languageKeepsTheSelection();
@@ -438,6 +439,20 @@ void tst_MainWindow::profilesShrink()
     QTRY_COMPARE(list->width(), 60);
     QCOMPARE(child<QLabel>(m_window.get(), "m_shownLab")->text(), QStringLiteral("PROFILE 1"));
     QCOMPARE(m_window->size(), QSize(1024, 700));
+}
+
+void tst_MainWindow::longNamesDoNotWidenTheWindow()
+{
+    m_shell->store().setProfileName(0, 0, QString(40, QLatin1Char('W')));
+    m_shell->store().flush();
+    m_window->resize(1024, 700);
+    for (int page = 0; page < 6; ++page) {
+        m_window->showPage(ShellPage(page));
+        QCoreApplication::processEvents();
+        QCOMPARE(m_window->size(), QSize(1024, 700));
+        QVERIFY(m_window->minimumSizeHint().width() <= 1024);
+        QVERIFY(m_window->minimumSizeHint().height() <= 700);
+    }
 }
 
 void tst_MainWindow::goToShowsTheKey()

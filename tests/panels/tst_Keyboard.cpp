@@ -183,7 +183,7 @@ std::vector<ushort> codesOf(const QSignalSpy &spy)
 {
     std::vector<ushort> codes;
     for (const auto &arguments : spy)
-        codes.push_back(arguments.at(0).value<vantrix_key_mapping>().code);
+        codes.push_back(ushort(arguments.at(0).value<vantrix_key_mapping>().code));
     return codes;
 }
 

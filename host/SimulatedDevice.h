@@ -38,15 +38,15 @@ QString deviceEventText(const std::vector<DeviceEvent> &events);
 /// What is sent depends on the edges that were passed alone, not on how fast: a jump passes all
 /// edges that lie between, in order.
 ///
-/// | record               | first edge down | d down               | d up               | up |
-/// |----------------------|-----------------|----------------------|--------------------|----|
-/// | plain, controller    | press           | -                    | -                  | release |
-/// | dual, normal         | press 1         | release 1, press 2   | -                  | release 2
-/// (or 1) | | dual, toggle         | press 1         | release 1, press 2   | release 2, press 1 |
-/// release 1 | | dual, combine        | press 1         | press 2              | release 2 |
-/// release 1 | | sequence             | all its events  | -                    | - | - | | profile
-/// code         | switch          | -                    | -                  | - | | disabled (0)
-/// | -               | -                    | -                  | - |
+/// |record           |goes down     |past d            |back over d       |up              |
+/// |-----------------|--------------|------------------|------------------|----------------|
+/// |plain, controller|press         |-                 |-                 |release         |
+/// |dual, normal     |press 1       |release 1, press 2|-                 |release 2 (or 1)|
+/// |dual, toggle     |press 1       |release 1, press 2|release 2, press 1|release 1       |
+/// |dual, combine    |press 1       |press 2           |release 2         |release 1       |
+/// |sequence         |all its events|-                 |-                 |-               |
+/// |profile code     |switch        |-                 |-                 |-               |
+/// |disabled (0)     |-             |-                 |-                 |-               |
 ///
 /// In "normal" the second action stays until the key is up: it took over for good. Without a
 /// second action, or with pressure sensing off, the second edge does nothing. Code 255 sends the

@@ -16,11 +16,9 @@ DualActionDistWid::~DualActionDistWid() = default;
 
 void DualActionDistWid::setDistance(int percent)
 {
-    QSlider *const slider = m_ui->m_distanceSlider;
-    const int shown = qBound(slider->minimum(), percent, slider->maximum());
-    showDistance(shown);
-    const QSignalBlocker blocker(slider);
-    slider->setValue(shown);
+    showDistance(percent);
+    const QSignalBlocker blocker(m_ui->m_distanceSlider);
+    m_ui->m_distanceSlider->setValue(percent);
 }
 
 int DualActionDistWid::distance() const

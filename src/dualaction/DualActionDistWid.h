@@ -18,8 +18,10 @@ public:
     explicit DualActionDistWid(QWidget *parent = nullptr);
     ~DualActionDistWid() override;
 
-    /// Shows a distance without a signal; values out of range are taken to the nearer end.
+    /// Shows a distance without a signal. For one out of range the slider stands at the nearer end,
+    /// and the number beside it tells what the key holds.
     void setDistance(int percent);
+    /// Where the slider stands.
     int distance() const;
 
 signals:

@@ -103,7 +103,7 @@ void tst_DualActionDistWid::setFromCodeIsSilent()
     QCOMPARE(spy.count(), 0);
     QCOMPARE(panel.distance(), shown);
     QCOMPARE(slider->value(), shown);
-    QCOMPARE(child<QLabel>(&panel, "m_distanceLab")->text(), QString::number(shown) + "%");
+    QCOMPARE(child<QLabel>(&panel, "m_distanceLab")->text(), QString::number(set) + "%");
     // The user is heard again.
     slider->setValue(shown == 90 ? 89 : 90);
     QCOMPARE(spy.count(), 1);

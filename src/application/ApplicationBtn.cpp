@@ -88,6 +88,19 @@ void ApplicationBtn::resizeEvent(QResizeEvent *event)
     const int h = header.height() / 2;
     m_folderBtn->setGeometry(header.x() + header.width() - 5 - w,
                              (header.y() + header.height() - h) / 2, w, h);
+    showCheckedFunction();
+}
+
+void ApplicationBtn::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    showCheckedFunction();
+}
+
+void ApplicationBtn::showCheckedFunction()
+{
+    if (QAbstractButton *const button = m_group->checkedButton())
+        m_ui->m_funcList->ensureWidgetVisible(button, 50, 50);
 }
 
 void ApplicationBtn::slotFuncBtnClicked(QAbstractButton *button)
@@ -105,8 +118,7 @@ void ApplicationBtn::slotApplicationSelected(int iAppType, int iFuncId)
     if (!own)
         return;
     m_group->setButtonChecked(iFuncId, true);
-    if (QAbstractButton *const button = m_group->button(iFuncId))
-        m_ui->m_funcList->ensureWidgetVisible(button, 50, 50);
+    showCheckedFunction();
 }
 
 void ApplicationBtn::slotVantrixKeySelected()

@@ -40,6 +40,7 @@ signals:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private slots:
     void slotChangeAppPath();
@@ -48,6 +49,7 @@ private slots:
 private:
     void addFunctions();
     void addFolderButton();
+    void showCheckedFunction();
 
     std::unique_ptr<Ui::ApplicationBtn> m_ui;
     const int m_appType;

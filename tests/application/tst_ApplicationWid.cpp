@@ -118,6 +118,7 @@ private slots:
     void headersAssignNothing();
     void selectionOpensItsSection_data() { applications(); }
     void selectionOpensItsSection();
+    void selectionIsInViewLater();
     void selectionOfAnotherKeepsTheCheck();
     void selectionMovesTheCheck();
     void unknownSelections_data();
@@ -328,6 +329,25 @@ void tst_ApplicationWid::selectionOpensItsSection()
     }
     QVERIFY(m_assigned.isEmpty());
     QCOMPARE(m_store->writes(), QStringList());
+}
+
+void tst_ApplicationWid::selectionIsInViewLater()
+{
+    // The panel gets to know the key's function before the page turns to it.
+    m_window->hide();
+    emit m_panel->sigApplicationSelected(1, 18);
+    m_window->show();
+    const auto isInView = [this] {
+        const FuncBtn *const button = function(1, 18);
+        return button->visibleRegion().boundingRect() == button->rect();
+    };
+    QVERIFY(isInView());
+    for (const QSize &size : {QSize(522, 196), QSize(900, 600), QSize(300, 170)}) {
+        m_window->resize(size);
+        m_panel->resize(size);
+        QCoreApplication::processEvents();
+        QVERIFY2(isInView(), qPrintable(QString::number(size.height())));
+    }
 }
 
 void tst_ApplicationWid::selectionOfAnotherKeepsTheCheck()

@@ -21,9 +21,15 @@ signals:
     /// The user clicked an entry: `type` 0, `code` its device code, 255 when it was unchecked.
     void sigProfileChanged(vantrix_key_mapping key);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
 private slots:
     void slotKeyClicked(QAbstractButton *button);
 
 private:
+    void scrollToChecked();
+
     std::unique_ptr<Ui::ProfileUi> m_ui;
 };

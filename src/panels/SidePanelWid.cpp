@@ -6,9 +6,14 @@
 
 #include "ui_SidePanelUi.h"
 
+#include <QAbstractButton>
 #include <QPointer>
 
+#include <algorithm>
+
 namespace {
+
+constexpr int FoldedHeight = 90;
 
 int inputOfPreset(int keyboardType)
 {
@@ -26,6 +31,8 @@ SidePanelWid::SidePanelWid(QWidget *parent)
     m_ui->setupUi(this);
     for (const int mainNumber : {0, 4, 5})
         m_ui->m_layout->addWidget(new PanelWid(mainNumber, m_mains, m_presets, this));
+    connect(m_mains, qOverload<QAbstractButton *, bool>(&QButtonGroup::buttonToggled), this,
+            &SidePanelWid::makeRoom);
     connect(m_presets, &QButtonGroup::idClicked, this, &SidePanelWid::slotPanelBtnClicked);
 }
 
@@ -34,6 +41,13 @@ SidePanelWid::~SidePanelWid() = default;
 void SidePanelWid::setCurrentPanel(int keyboardType)
 {
     m_presets->setButtonChecked(keyboardType, true);
+}
+
+/// What is open needs its room, however low the list was.
+void SidePanelWid::makeRoom()
+{
+    layout()->activate();
+    setMinimumHeight(std::max(FoldedHeight, layout()->totalMinimumSize().height()));
 }
 
 void SidePanelWid::focusOutEvent(QFocusEvent *) {}

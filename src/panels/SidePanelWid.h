@@ -9,7 +9,8 @@ namespace Ui {
 class SidePanelUi;
 }
 
-/// The floating list of the nine presets, in three folding groups of which at most one is open.
+/// The floating list of the nine presets, in three folding groups of which at most one is open. It
+/// gets no lower than what is open needs.
 class SidePanelWid : public QWidget
 {
     Q_OBJECT
@@ -34,6 +35,8 @@ private slots:
     void slotPanelBtnClicked(int keyboardType);
 
 private:
+    void makeRoom();
+
     std::unique_ptr<Ui::SidePanelUi> m_ui;
     ButtonGroupEx *m_mains;
     ButtonGroupEx *m_presets;

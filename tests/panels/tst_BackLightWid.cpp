@@ -60,7 +60,8 @@ void tst_BackLightWid::buttonsLieApart()
     BackLightWid panel(&page);
     page.show();
     for (const QSize &size :
-         {QSize(766, 288), QSize(450, 160), QSize(1532, 576), QSize(2400, 160), QSize(450, 900)}) {
+         {QSize(331, 91), QSize(165, 45), QSize(662, 182), QSize(993, 91), QSize(331, 273),
+          QSize(766, 288), QSize(450, 160), QSize(1532, 576), QSize(2400, 160), QSize(450, 900)}) {
         panel.resize(size);
         QCoreApplication::processEvents();
         QCOMPARE(panel.size(), size);
@@ -69,7 +70,7 @@ void tst_BackLightWid::buttonsLieApart()
         for (const QAbstractButton *button : buttons) {
             const int room = button->width() - (size.width() > 450 ? 10 : 0);
             QVERIFY2(button->fontMetrics().horizontalAdvance(button->text()) <= room,
-                     qPrintable(button->text()));
+                     qPrintable(QStringLiteral("%1 at %2").arg(button->text()).arg(size.width())));
         }
     }
 }

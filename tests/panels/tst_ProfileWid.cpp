@@ -5,6 +5,7 @@
 
 #include <QBoxLayout>
 #include <QScrollArea>
+#include <QScrollBar>
 
 class tst_ProfileWid : public QObject
 {
@@ -16,6 +17,7 @@ private slots:
     void showsASelectedKey() { m_common.showsASelectedKey(); }
     void form();
     void functionsStandUnderEachOther();
+    void checkedFunctionIsInView();
 
 private:
     FunctionPanelTest<ProfileWid, decltype(&ProfileWid::sigProfileChanged)> m_common{
@@ -75,7 +77,32 @@ void tst_ProfileWid::functionsStandUnderEachOther()
             QVERIFY(rect.top() > bottom);
             bottom = rect.bottom();
         }
+        // Names get narrower; nothing is cut off at the side.
+        QCOMPARE(area->widget()->width(), area->viewport()->width());
+        QVERIFY(!area->horizontalScrollBar()->isVisible());
     }
+}
+
+void tst_ProfileWid::checkedFunctionIsInView()
+{
+    QWidget page;
+    ProfileWid panel(&page);
+    vantrix_key_mapping key;
+    key.code = 1571;
+    panel.slotVantrixKeySelected(key);
+    page.show();
+    const auto isInView = [&](int code) {
+        const QWidget *const button = m_common.group(panel)->button(code);
+        return button->visibleRegion().boundingRect() == button->rect();
+    };
+    QVERIFY(isInView(1571));
+    for (const int code : {1536, 1559, 1570, 1540}) {
+        key.code = ushort(code);
+        panel.slotVantrixKeySelected(key);
+        QVERIFY2(isInView(code), qPrintable(QString::number(code)));
+    }
+    panel.resize(300, 110);
+    QVERIFY(isInView(1540));
 }
 
 VANTRIX_TEST_MAIN(tst_ProfileWid)

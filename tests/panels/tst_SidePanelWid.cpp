@@ -61,6 +61,7 @@ private slots:
     void groupsFold();
     void groupsNeverApply();
     void oneGroupIsOpen();
+    void openGroupHasItsRoom();
     void clicksOnTheNameReachTheButton();
     void losingTheFocusLeavesItOpen();
 };
@@ -256,6 +257,26 @@ void tst_SidePanelWid::oneGroupIsOpen()
         QCOMPARE(open->width(), 126);
     }
     QCOMPARE(panel.size(), QSize(126, 179));
+}
+
+void tst_SidePanelWid::openGroupHasItsRoom()
+{
+    QWidget page;
+    SidePanelWid panel(&page);
+    panel.resize(108, 90);
+    page.show();
+    const auto folders = foldersOf(panel);
+    clickOn(mainOf(folders[1]));
+    QCoreApplication::processEvents();
+    QVERIFY(panel.height() >= 155);
+    int bottom = -1;
+    for (const PanelWid *folder : folders) {
+        QVERIFY(folder->y() > bottom);
+        bottom = folder->geometry().bottom();
+    }
+    QVERIFY(bottom < panel.height());
+    clickOn(mainOf(folders[1]));
+    QCOMPARE(panel.minimumHeight(), 90);
 }
 
 void tst_SidePanelWid::clicksOnTheNameReachTheButton()

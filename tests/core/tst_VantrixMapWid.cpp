@@ -76,6 +76,11 @@ private slots:
     void updateMacroAssign();
     void winShortcutKeys();
     void wholeRoadInSimpleMode();
+    void boardTellsThePanels();
+    void panelsTellTheBoard();
+    void boardTellsTheMenu();
+    void menuTellsTheBoard();
+    void boardMayAskToApply();
     void hiding();
     void relays();
     void pageMayDieInAWarning();
@@ -763,6 +768,110 @@ void tst_VantrixMapWid::wholeRoadInSimpleMode()
     QVERIFY(find<QPushButton>("btn_48")->isChecked());
     click("btn_48");
     QCOMPARE(profile().keys.at(7), plainKey(255));
+}
+
+void tst_VantrixMapWid::boardTellsThePanels()
+{
+    auto *const board = find<AssignWid>("m_assignWid");
+    auto *const panels = find<MapWid>("m_mapWid");
+    QSignalSpy key(panels, &MapWid::sigVantrixKeySelected);
+    QSignalSpy application(panels, &MapWid::sigApplicationSelected);
+    QSignalSpy dual(panels, &MapWid::sigDualActionSelected);
+    QSignalSpy macro(panels, &MapWid::sigMacroSelected);
+    emit board->sigVantrixKeySelected(plainKey(5));
+    QCOMPARE(key.count(), 1);
+    QVERIFY(find<QPushButton>("btn_48")->isChecked());
+    emit board->sigResetCurrKey();
+    QVERIFY(!find<QPushButton>("btn_48")->isChecked());
+    emit board->sigApplicationSelected(1, 7);
+    QCOMPARE(application.count(), 1);
+    emit board->sigDualActionSelected(0, 1, {4, 481, 0, 30});
+    QCOMPARE(dual.count(), 1);
+    emit board->sigMacroSelected("M1");
+    QCOMPARE(macro.count(), 1);
+    QCOMPARE(m_store->writes(), QStringList());
+}
+
+void tst_VantrixMapWid::panelsTellTheBoard()
+{
+    auto *const panels = find<MapWid>("m_mapWid");
+    key(7)->click();
+    const auto stored = [this] {
+        return profile().keys.at(7);
+    };
+    emit panels->sigVantrixKeyAssigned(plainKey(5));
+    QCOMPARE(stored(), plainKey(5));
+    emit panels->sigApplicationAssigned(1, 7);
+    QCOMPARE(int(profile().apps.at(7).funcId), 7);
+    emit panels->sigMacroAssigned(true, "M1", "one", -1);
+    QCOMPARE(profile().macros.at(7), std::string("one"));
+    emit panels->sigMacroAssigned(true, "M4", "Copy", 2);
+    QCOMPARE(int(profile().shortcuts.at(7)), 2);
+    emit panels->sigAssignedKey("M2", "two", {{7, 0}});
+    QCOMPARE(key(7)->text(), QString("M2"));
+    emit panels->sigRenameMacro("M2", "zwei");
+    QCOMPARE(key(7)->toolTip(), QString("zwei"));
+
+    vantrix_key_mapping pending = plainKey(5);
+    pending.digital = {5, 481, 0, 30};
+    m_store->clearLog();
+    emit panels->sigDualActionAssigned(pending);
+    QCOMPARE(m_store->writes(), QStringList({"setProfileDirty 5 2 1"}));
+    emit panels->sigDualActionBack();
+    QCOMPARE(key(7)->text(), QString("M2"));
+    emit panels->sigDualActionAssigned(pending);
+    emit panels->sigDualActionApply();
+    QCOMPARE(int(stored().type), 3);
+    QCOMPARE(int(stored().digital.depth), 30);
+    emit panels->sigDualActionDepthChanged(60);
+    QCOMPARE(int(stored().digital.depth), 60);
+}
+
+void tst_VantrixMapWid::boardTellsTheMenu()
+{
+    click("m_advanced");
+    auto *const board = find<AssignWid>("m_assignWid");
+    QWidget *const menu = find<QWidget>("m_assignMenuWid");
+    const auto *const shown = find<QLabel>("m_assignLab");
+    emit board->sigKeySelectionChanged(4);
+    QCOMPARE(find<QLabel>("m_keyLab")->text(), QString("VANTRIX 05"));
+    emit board->sigVantrixKeySelected(plainKey(5));
+    QVERIFY(!menu->isHidden());
+    QCOMPARE(shown->text(), QString("B"));
+    emit board->sigUpdateVantrixKey(plainKey(6));
+    QCOMPARE(shown->text(), QString("C"));
+    emit board->sigApplicationAdvSelected("Save");
+    QCOMPARE(shown->text(), QString("Save"));
+    emit board->sigMacroSelected("M3");
+    QCOMPARE(shown->text(), QString("M3"));
+    emit board->sigDualActionSelectedToAdv(dualKey(4, 481, 30));
+    QCOMPARE(shown->text(), QString("A"));
+    QVERIFY(!find<QLabel>("m_dualActionLab")->isHidden());
+    emit board->sigApplicationSelected(1, 7);
+    QVERIFY(find<QLabel>("m_dualActionLab")->isHidden());
+    emit board->sigCancelKeySelection();
+    QVERIFY(menu->isHidden());
+}
+
+void tst_VantrixMapWid::menuTellsTheBoard()
+{
+    auto *const menu = find<AssignMenuWid>("m_assignMenuWid");
+    key(7)->click();
+    emit menu->sigVantrixKeyAssigned(plainKey(5));
+    QCOMPARE(profile().keys.at(7), plainKey(5));
+    emit menu->sigApplicationAdvAssigned("CTRL+S", "Save");
+    QCOMPARE(profile().hotKeys.at(7).keyName, QString("Save"));
+    emit menu->sigMacroAssigned(true, "M1", "one", -1);
+    QCOMPARE(profile().macros.at(7), std::string("one"));
+    emit menu->sigMacroAssigned(true, "M4", "Copy", 2);
+    QCOMPARE(int(profile().shortcuts.at(7)), 2);
+}
+
+void tst_VantrixMapWid::boardMayAskToApply()
+{
+    QSignalSpy told(m_page, &VantrixMapWid::sigUpdateKeyMapping);
+    emit find<AssignWid>("m_assignWid")->sigApply();
+    QCOMPARE(told.count(), 1);
 }
 
 void tst_VantrixMapWid::hiding()

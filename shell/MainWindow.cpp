@@ -223,6 +223,10 @@ void MainWindow::makeViewMenu()
                               QKeySequence(Qt::CTRL + Qt::Key_B));
     m_names->setCheckable(true);
     m_names->setChecked(true);
+    connect(m_profiles, &ProfileList::namesNeeded, m_names, [this] {
+        m_names->setChecked(true);
+        arrange();
+    });
     view->addSeparator();
     int number = 0;
     for (QAbstractButton *tab : m_tabs->buttons()) {

@@ -1,15 +1,12 @@
 #include "shell/ProfileList.h"
 
+#include "shell/ProfileDelegate.h"
 #include "shell/ShellStyle.h"
 
-#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QPainter>
-#include <QStyledItemDelegate>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -17,122 +14,10 @@
 
 namespace {
 
-enum Role { ProfileRole = Qt::UserRole, DirtyRole, OnDeviceRole, MarkedRole };
+using Role = ProfileDelegate::Role;
 
-constexpr int RowHeight = 28;
-constexpr int NumberRowHeight = 26;
-constexpr int NumberWidth = 30;
 constexpr int FullWidth = 240;
 constexpr int CompactWidth = 60;
-/// Narrowest row that shows a name.
-constexpr int NameRowWidth = 120;
-constexpr int MaxNameLength = 40;
-
-/// A row: number, name, what the device has.
-class ProfileDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option,
-               const QModelIndex &index) const override
-    {
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        const bool isShown = option.state & QStyle::State_Selected;
-        if (isShown)
-            painter->fillRect(option.rect, ShellStyle::accent());
-        else if (option.state & QStyle::State_MouseOver)
-            painter->fillRect(option.rect, ShellStyle::raised());
-        if (index.data(MarkedRole).toBool()) {
-            painter->setPen(QPen(ShellStyle::warning(), 2));
-            painter->drawRoundedRect(option.rect.adjusted(2, 2, -2, -2), 4, 4);
-        }
-        if (option.rect.width() < NameRowWidth)
-            paintNumber(painter, option, index);
-        else
-            paintRow(painter, option, index);
-        painter->restore();
-    }
-
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const override
-    {
-        const bool isNumber = option.rect.width() < NameRowWidth;
-        return {40, qMax(isNumber ? NumberRowHeight : RowHeight, option.fontMetrics.height() + 8)};
-    }
-
-    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &,
-                          const QModelIndex &) const override
-    {
-        auto *editor = new QLineEdit(parent);
-        editor->setObjectName(QStringLiteral("m_nameEdit"));
-        editor->setMaxLength(MaxNameLength);
-        return editor;
-    }
-
-private:
-    static void paintDirty(QPainter *painter, const QPointF &center)
-    {
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(ShellStyle::warning());
-        painter->drawEllipse(center, 4, 4);
-    }
-
-    /// The row of a strip: a number, in a frame if the device acts by the profile.
-    static void paintNumber(QPainter *painter, const QStyleOptionViewItem &option,
-                            const QModelIndex &index)
-    {
-        QRect frame(0, 0, 28, 22);
-        frame.moveCenter(option.rect.center() - QPoint(4, 0));
-        painter->setPen(ShellStyle::text());
-        if (index.data(OnDeviceRole).toBool())
-            painter->drawRoundedRect(frame, 4, 4);
-        painter->drawText(frame, Qt::AlignCenter,
-                          QString::number(index.data(ProfileRole).toInt() + 1));
-        if (index.data(DirtyRole).toBool())
-            paintDirty(painter, QPointF(option.rect.right() - 7, option.rect.center().y() + 1));
-    }
-
-    static void paintRow(QPainter *painter, const QStyleOptionViewItem &option,
-                         const QModelIndex &index)
-    {
-        const bool isShown = option.state & QStyle::State_Selected;
-        QRect rest = option.rect.adjusted(0, 0, -8, 0);
-        paintState(painter, option, index, rest);
-        painter->setFont(option.font);
-        painter->setPen(isShown ? ShellStyle::text() : ShellStyle::dim());
-        painter->drawText(rest.left(), rest.top(), NumberWidth, rest.height(),
-                          Qt::AlignRight | Qt::AlignVCenter,
-                          QString::number(index.data(ProfileRole).toInt() + 1));
-        rest.setLeft(rest.left() + NumberWidth + 10);
-        painter->setPen(ShellStyle::text());
-        const QString name =
-            option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, rest.width());
-        painter->drawText(rest, Qt::AlignLeft | Qt::AlignVCenter, name);
-    }
-
-    /// Paints the marks at the right end and takes their room from `rest`.
-    static void paintState(QPainter *painter, const QStyleOptionViewItem &option,
-                           const QModelIndex &index, QRect &rest)
-    {
-        if (index.data(DirtyRole).toBool())
-            paintDirty(painter, QPointF(rest.right() - 4, rest.center().y() + 1));
-        rest.setRight(rest.right() - 16);
-        if (!index.data(OnDeviceRole).toBool())
-            return;
-        QFont small = option.font;
-        small.setPixelSize(QFontInfo(option.font).pixelSize() * 3 / 4);
-        const QString text = QCoreApplication::translate("ProfileList", "DEVICE");
-        const int width = QFontMetrics(small).horizontalAdvance(text) + 10;
-        const QRect badge(rest.right() - width, rest.center().y() - 8, width, 17);
-        painter->setPen(QPen(ShellStyle::text(), 1));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRoundedRect(badge, 3, 3);
-        painter->setFont(small);
-        painter->drawText(badge, Qt::AlignCenter, text);
-        rest.setRight(badge.left() - 6);
-    }
-};
 
 } // namespace
 
@@ -145,7 +30,8 @@ ProfileList::ProfileList(ShellContext &context, QWidget *parent)
     m_list->setObjectName(QStringLiteral("m_profiles"));
     m_list->setAccessibleName(tr("Profiles"));
     m_list->setItemDelegate(new ProfileDelegate(m_list));
-    m_list->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    connect(m_list, &QListWidget::itemDoubleClicked, this, &ProfileList::rename);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setMouseTracking(true);
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -271,7 +157,7 @@ void ProfileList::refresh()
             auto *item = new QListWidgetItem(m_list);
             item->setFlags(item->flags() | Qt::ItemIsEditable);
         }
-        m_list->item(row)->setData(ProfileRole, order[std::size_t(row)]);
+        m_list->item(row)->setData(Role::ProfileRole, order[std::size_t(row)]);
         refreshRow(m_list->item(row));
     }
     m_list->setCurrentRow(rowOf(m_context.profile()));
@@ -281,15 +167,15 @@ void ProfileList::refresh()
 void ProfileList::refreshRow(QListWidgetItem *item)
 {
     const int owner = m_context.owner();
-    const int profile = item->data(ProfileRole).toInt();
+    const int profile = item->data(Role::ProfileRole).toInt();
     const SimulatedDevice &device = m_context.device();
     const bool isDirty = device.differs(owner, profile);
     const bool isOnDevice = device.currentOwner() == owner && device.currentProfile() == profile;
     const QString name = m_context.store().state().profileName(owner, profile);
     item->setText(name);
-    item->setData(DirtyRole, isDirty);
-    item->setData(OnDeviceRole, isOnDevice);
-    item->setData(MarkedRole, m_marked.count(profile) > 0);
+    item->setData(Role::DirtyRole, isDirty);
+    item->setData(Role::OnDeviceRole, isOnDevice);
+    item->setData(Role::MarkedRole, m_marked.count(profile) > 0);
     QStringList words = {name};
     if (profile == m_context.profile())
         words << tr("shown");
@@ -314,7 +200,7 @@ void ProfileList::refreshProfile(int owner, int profile)
 int ProfileList::rowOf(int profile) const
 {
     for (int row = 0; row < m_list->count(); ++row) {
-        if (m_list->item(row)->data(ProfileRole).toInt() == profile)
+        if (m_list->item(row)->data(Role::ProfileRole).toInt() == profile)
             return row;
     }
     return -1;
@@ -323,20 +209,22 @@ int ProfileList::rowOf(int profile) const
 void ProfileList::onRowChanged(int row)
 {
     if (!m_isFilling && row >= 0)
-        emit m_context.goTo(m_list->item(row)->data(ProfileRole).toInt(), NoKey);
+        emit m_context.goTo(m_list->item(row)->data(Role::ProfileRole).toInt(), NoKey);
 }
 
 void ProfileList::onEdited(QListWidgetItem *item)
 {
     if (m_isFilling)
         return;
-    const int profile = item->data(ProfileRole).toInt();
+    const int profile = item->data(Role::ProfileRole).toInt();
     m_context.store().setProfileName(m_context.owner(), profile, item->text());
     refresh();
 }
 
 void ProfileList::rename()
 {
+    if (m_isCompact)
+        emit namesNeeded();
     m_list->setFocus();
     m_list->editItem(m_list->currentItem());
 }

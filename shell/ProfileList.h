@@ -41,6 +41,10 @@ public slots:
     /// Shows the profile `step` places further in the list, around its ends.
     void showNext(int step);
 
+signals:
+    /// A name is to be edited and a strip has no room for it.
+    void namesNeeded();
+
 private:
     void refresh();
     void refreshRow(QListWidgetItem *item);

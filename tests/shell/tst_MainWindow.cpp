@@ -5,12 +5,14 @@
 #include "interfaces/Modal.h"
 #include "shell/MappingView.h"
 #include "shell/MessageBar.h"
+#include "shell/ProfileList.h"
 #include "support/Gestures.h"
 #include "support/TestMain.h"
 
 #include <QAction>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 
@@ -44,6 +46,7 @@ private slots:
     void removedMacroLeavesTheKeys();
     void pagesShareTheRoom();
     void profilesShrink();
+    void renamingNeedsTheNames();
     void longNamesDoNotWidenTheWindow();
     void goToShowsTheKey();
     void goToInTheShownProfile();
@@ -441,6 +444,18 @@ void tst_MainWindow::profilesShrink()
     QTRY_COMPARE(list->width(), 60);
     QCOMPARE(child<QLabel>(m_window.get(), "m_shownLab")->text(), QStringLiteral("PROFILE 1"));
     QCOMPARE(m_window->size(), QSize(1024, 700));
+}
+
+void tst_MainWindow::renamingNeedsTheNames()
+{
+    auto *const list = child<ProfileList>(m_window.get(), "m_profileList");
+    m_window->resize(1024, 700);
+    QTRY_VERIFY(list->isCompact());
+    list->rename();
+    QVERIFY(!list->isCompact());
+    auto *const edit = child<QLineEdit>(list, "m_nameEdit");
+    QVERIFY(edit->isVisible());
+    QTRY_VERIFY(edit->width() > 100);
 }
 
 void tst_MainWindow::longNamesDoNotWidenTheWindow()

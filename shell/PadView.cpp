@@ -4,6 +4,7 @@
 #include "host/StoreState.h"
 #include "shell/KeyTitle.h"
 #include "shell/ShellStyle.h"
+#include "vocabulary/AppTables.h"
 #include "vocabulary/KeyCodes.h"
 
 #include <QHelpEvent>
@@ -42,14 +43,24 @@ QRectF placeOf(int keyIdx)
     return {FirstKey + step, QSizeF(width, KeySize)};
 }
 
+/// What stands on a key: short, since its colour tells the kind.
+QString faceText(int keyIdx, const KeyContent &content)
+{
+    if (content.app)
+        return appFunctionText(content.app->appType, content.app->funcId);
+    if (content.hotKey)
+        return content.hotKey->keyName;
+    return KeyText::isCleared(keyIdx, content) ? KeyText::codeName(defaultCodeOfKey(keyIdx))
+                                               : KeyText::functionName(keyIdx, content);
+}
+
 } // namespace
 
 PadKey PadKey::of(int keyIdx, const KeyContent &content)
 {
     PadKey key;
     const QString function = KeyText::functionName(keyIdx, content);
-    const bool isCleared = KeyText::isCleared(keyIdx, content);
-    key.text = isCleared ? KeyText::codeName(defaultCodeOfKey(keyIdx)) : function;
+    key.text = faceText(keyIdx, content);
     key.description = QStringLiteral("%1: %2").arg(KeyTitle::withLegend(keyIdx), function);
     key.inputType = KeyText::inputType(keyIdx, content);
     return key;

@@ -22,6 +22,7 @@ private slots:
     void init();
     void cleanup();
     void showsWhatTheDeviceHas();
+    void facesAreShort();
     void saysWhatIsPending();
     void pressWithTheMouse();
     void dragGoesDeeper();
@@ -94,6 +95,21 @@ void tst_DeviceView::showsWhatTheDeviceHas()
     QCOMPARE(pad()->keys()[7].text, QStringLiteral("B"));
     QCOMPARE(pad()->keys()[7].description, QStringLiteral("Key 7 (W): B"));
     QCOMPARE(pad()->keys()[7].inputType, int(InputType::Keyboard));
+}
+
+void tst_DeviceView::facesAreShort()
+{
+    vantrix_app_assign app;
+    app.appType = 0;
+    app.funcId = 3;
+    store().setAppAssign(0, 0, 3, &app);
+    const vantrix_hotkey_assign hotKey{0, QStringLiteral("CTRL+S"), QStringLiteral("Save")};
+    store().setHotKeyAssign(0, 0, 4, &hotKey);
+    m_shell->apply();
+    QCOMPARE(pad()->keys()[3].text, QStringLiteral("BLUR"));
+    QCOMPARE(pad()->keys()[3].description, QStringLiteral("Key 3 (3 #): PHOTOSHOP: BLUR"));
+    QCOMPARE(pad()->keys()[4].text, QStringLiteral("Save"));
+    QCOMPARE(pad()->keys()[4].description, QStringLiteral("Key 4 (4 $): Save (CTRL+S)"));
 }
 
 void tst_DeviceView::saysWhatIsPending()

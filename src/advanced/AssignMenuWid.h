@@ -34,8 +34,8 @@ public:
 
     /// The page's mode; the slots below show the menu only when it is not 0.
     void setMode(int iMode);
-    /// The pair by which the dialog's controller page asks the store. Another pair than before
-    /// empties the list of macros.
+    /// The pair by which the dialog's controller page asks the store. Empties the list of macros,
+    /// also for the same pair: the host adds them again.
     void setProfile(int iOwner, int iProfile);
     void addKeyAssignMacro(std::string strMacroName);
     void delKeyAssignMacro(std::string strMacroName);

@@ -161,8 +161,6 @@ void ReassignDlg::openFor(int iKeyIdx, int iState, const vantrix_key_mapping *ke
 
 void ReassignDlg::setProfile(int iOwner, int iProfile)
 {
-    if (iOwner == m_iOwner && iProfile == m_iProfile)
-        return;
     m_iOwner = iOwner;
     m_iProfile = iProfile;
     m_ui->m_macro->clearMacros();

@@ -32,8 +32,8 @@ public:
     /// record of type 1 tells nothing of the function, so then nothing is sent. The dialog may be
     /// gone afterwards.
     void openFor(int iKeyIdx, int iState, const vantrix_key_mapping *key);
-    /// The pair by which the controller page asks the store. Another pair than before empties the
-    /// macro page.
+    /// The pair by which the controller page asks the store. Empties the macro page: the host adds
+    /// its macros again.
     void setProfile(int iOwner, int iProfile);
 
     void addKeyAssignMacro(std::string strMacroName);

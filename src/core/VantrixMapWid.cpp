@@ -235,6 +235,7 @@ void VantrixMapWid::updateUi(int iProfile)
     updateMode(stored);
 
     const QPointer<VantrixMapWid> alive(this);
+    m_data->menu->setProfile(m_data->iOwner, iProfile);
     showStored();
     if (!alive)
         return;
@@ -259,7 +260,6 @@ void VantrixMapWid::updateKeyMapping()
 /// The board may have to warn of something, and the page may be gone when the user has read it.
 void VantrixMapWid::showStored()
 {
-    m_data->menu->setProfile(m_data->iOwner, m_data->iProfile);
     m_data->input->updateUi(m_data->iOwner, m_data->iProfile);
     m_data->m_assignWid->showProfile(m_data->iOwner, m_data->iProfile);
 }

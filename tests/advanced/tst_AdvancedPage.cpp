@@ -43,6 +43,7 @@ private slots:
     void cancelWritesNothing();
     void openingWritesNothing();
     void updateKeepsTheMacros();
+    void macrosThatAreToldAgainStandOnce();
     void pageDestroyedWhileTheDialogIsOpen();
     void pageDestroyedByWhatItAsksFor();
 
@@ -348,6 +349,28 @@ void tst_AdvancedPage::updateKeepsTheMacros()
     QVERIFY(has());
     m_page->updateUi(1);
     QTRY_VERIFY(!has());
+}
+
+/// A host shows its profile anew, say after an undo, and tells its macros with it.
+void tst_AdvancedPage::macrosThatAreToldAgainStandOnce()
+{
+    for (int i = 0; i < 3; ++i) {
+        m_page->updateUi(0);
+        m_page->slotAddKeyAssignMacro("Jump");
+        m_page->slotAddKeyAssignMacro("Run");
+    }
+    profile().macros[11] = "Run";
+    m_page->updateKeyMapping();
+    selectKey(11);
+    reassign([](QObject *dialog) {
+        QStringList macros;
+        for (const QPushButton *button :
+             child<MacroAdvWid>(dialog, "m_macro")->findChildren<QPushButton *>()) {
+            if (button->text() == "Jump" || button->text() == "Run")
+                macros << button->text() + (button->isChecked() ? "*" : "");
+        }
+        QCOMPARE(macros, (QStringList{"Jump", "Run*"}));
+    });
 }
 
 void tst_AdvancedPage::pageDestroyedWhileTheDialogIsOpen()

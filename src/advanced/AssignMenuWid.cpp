@@ -316,7 +316,9 @@ QString AssignMenuWid::mappingText(int iState, ushort code) const
     if (iState == InputType::Media || iState == InputType::GameController)
         return QString();
     const bool isUnassigned = iState == InputType::Unassigned;
-    return keyLegendOfCode(isUnassigned ? defaultCodeOfKey(m_iKeyIdx) : code);
+    // Legends are texts of buttons, which double their ampersands; a label shows both.
+    return keyLegendOfCode(isUnassigned ? defaultCodeOfKey(m_iKeyIdx) : code)
+        .replace(QLatin1String("&&"), QLatin1String("&"));
 }
 
 void AssignMenuWid::applyState(int iState, const QString &strImage, const QString &strText,
@@ -324,8 +326,7 @@ void AssignMenuWid::applyState(int iState, const QString &strImage, const QStrin
 {
     colorFrame();
     colorLabel(lab, iState, strImage);
-    // Texts of buttons double their ampersands; a label shows both.
-    setWholeText(lab, QString(strText).replace(QLatin1String("&&"), QLatin1String("&")));
+    setWholeText(lab, strText);
     lab->setAccessibleName(QString());
 }
 

@@ -83,6 +83,7 @@ void tst_AssignMenuWid::showsEveryKindOfRecord_data()
     const QString brown("#ffa67c52");
     QTest::newRow("keyboard") << 0 << plainKey(4) << magenta << none << "A";
     QTest::newRow("two lines") << 0 << plainKey(30) << magenta << none << "1\n!";
+    QTest::newRow("ampersand") << 0 << plainKey(3079) << magenta << none << "&";
     QTest::newRow("scroll up") << 0 << plainKey(1280) << magenta << none << "SCROLL UP";
     QTest::newRow("profile up") << 0 << plainKey(1568) << magenta << none << "PROFILE[+]";
     QTest::newRow("mouse") << 0 << plainKey(496) << "#fff6941d" << none << "LEFT CLICK";
@@ -191,6 +192,9 @@ void tst_AssignMenuWid::showsLabels()
     QCOMPARE(label("m_keyLab")->styleSheet(), frameOf("#ffffff00"));
     QCOMPARE(label("m_assignLab")->styleSheet(), fillOf("#ffffff00"));
     QCOMPARE(label("m_assignLab")->text(), QString("Save As"));
+
+    m_menu->slotApplicationAdvSelected("Cut && Paste & Go");
+    QCOMPARE(label("m_assignLab")->text(), QString("Cut && Paste & Go"));
 
     select(11, labelled);
     m_menu->slotApplicationSelected(0, 3);

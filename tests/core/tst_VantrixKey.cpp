@@ -47,8 +47,11 @@ private slots:
     void hotKey();
     void appFunction_data();
     void appFunction();
+    void appFunctionTips_data();
+    void appFunctionTips();
     void iconGoesWithItsRule();
     void labelToolTipStays();
+    void labelAndItsEnd();
     void cutTextHasToolTip();
     void sameSheetIsNotSetAgain();
     void updateStylesOnce();
@@ -218,6 +221,34 @@ void tst_VantrixKey::appFunction()
     QCOMPARE(m_key->styleSheet(), colors("ffff00"));
 }
 
+void tst_VantrixKey::appFunctionTips_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("function");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("toolTip");
+    QTest::newRow("with a hint") << 0 << 0 << "A1"
+                                 << "Play Action 1. Please assign F2 to an Action in Photoshop";
+    QTest::newRow("with an empty hint") << 0 << 8 << "DODGE"
+                                        << "DODGE";
+    QTest::newRow("without a hint") << 1 << 17 << "TEXT"
+                                    << "TEXT";
+    QTest::newRow("unknown function") << 2 << 19 << "UNKNOWN"
+                                      << "UNKNOWN";
+}
+
+void tst_VantrixKey::appFunctionTips()
+{
+    QFETCH(int, type);
+    QFETCH(int, function);
+    QFETCH(QString, text);
+    QFETCH(QString, toolTip);
+    m_key->fixSize(400, 60);
+    m_key->showAppFunction(type, function);
+    QCOMPARE(m_key->text(), text);
+    QCOMPARE(m_key->toolTip(), toolTip);
+}
+
 void tst_VantrixKey::iconGoesWithItsRule()
 {
     m_key->setMapping(0, plainKey(244));
@@ -242,6 +273,28 @@ void tst_VantrixKey::labelToolTipStays()
     QCOMPARE(m_key->toolTip(), QString("Build all"));
     m_key->showHotKey("F1", "Help");
     QCOMPARE(m_key->toolTip(), QString("Help (F1) "));
+}
+
+void tst_VantrixKey::labelAndItsEnd()
+{
+    QCOMPARE(m_key->label().state, -1);
+    vantrix_key_mapping pending = plainKey(5);
+    pending.digital = {5, 6, 0, 40};
+    for (int way = 0; way < 3; ++way) {
+        m_key->showMacro("M3", "Build all");
+        QCOMPARE(m_key->label().state, 3);
+        QCOMPARE(m_key->label().text, QString("M3"));
+        QCOMPARE(m_key->label().toolTip, QString("Build all"));
+        if (way == 0)
+            m_key->setMapping(0, plainKey(5));
+        else if (way == 1)
+            m_key->showDualAction(dualKey(4, 5, 50));
+        else
+            m_key->showStagedDualAction(0, pending);
+        QCOMPARE(m_key->label().state, -1);
+    }
+    m_key->showHotKey("F1", "Help");
+    QCOMPARE(m_key->label().state, 5);
 }
 
 void tst_VantrixKey::cutTextHasToolTip()
@@ -304,6 +357,7 @@ void tst_VantrixKey::tipShowsBesideADualActionKey()
     QCOMPARE(child<QLabel>(tip(), "m_action2")->text(), QString("  ACTION2 - 7\n&"));
     leave();
     QVERIFY(!tip()->isVisible());
+    enter();
     m_key->setMapping(2, plainKey(5));
     enter();
     QVERIFY(!tip()->isVisible());

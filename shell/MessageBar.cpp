@@ -10,7 +10,8 @@ MessageBar::MessageBar(QWidget *parent) : QWidget(parent), m_text(new QLabel(thi
 {
     setAttribute(Qt::WA_StyledBackground);
     setObjectName(QStringLiteral("m_messageBar"));
-    setStyleSheet(QStringLiteral("#m_messageBar{background:#4a3a14;border-bottom:1px solid %1;}")
+    setStyleSheet(ShellStyle::panelSheet() +
+                  QStringLiteral("#m_messageBar{background:#4a3a14;border-bottom:1px solid %1;}")
                       .arg(ShellStyle::warning().name()));
     m_text->setObjectName(QStringLiteral("m_messageLab"));
     m_text->setWordWrap(true);

@@ -1,5 +1,5 @@
 /// Draws the pictures of docs/screenshots from a store with an example of everything:
-/// vantrix-screenshots FOLDER
+/// vantrix-screenshots FOLDER [LANGUAGE]
 
 #include "core/VantrixMapWid.h"
 #include "interfaces/Modal.h"
@@ -273,15 +273,17 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     QApplication app(argc, argv);
-    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
-        QTextStream(stderr) << "usage: vantrix-screenshots FOLDER\n";
+    const int language = Language::parse(QLatin1String(argc == 3 ? argv[2] : "English"));
+    if (argc < 2 || language < 0 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
+        QTextStream(stderr) << "usage: vantrix-screenshots FOLDER [LANGUAGE]\n";
         return 2;
     }
     ShellStyle::install();
     Modal::setAnswerer([](const ModalPrompt &) { return QVariant(0); });
     const QTemporaryDir folder;
     HostServices services(folder.path());
-    services.environment().setLanguage(Language::parse(QStringLiteral("English")));
+    services.environment().setLanguage(language);
+    Language::install(language);
     Example example(services.store());
     example.fill();
     ShellContext context(services);

@@ -701,7 +701,7 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <name>MainWindow</name>
     <message>
         <source>MAPPING</source>
-        <translation>НАЗНАЧЕНИЕ</translation>
+        <translation>КЛАВИШИ</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -821,11 +821,11 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     </message>
     <message>
         <source>CHANGES %1</source>
-        <translation>ИЗМЕНЕНИЯ %1</translation>
+        <translation>ОТЛИЧИЯ %1</translation>
     </message>
     <message>
         <source>CHANGES</source>
-        <translation>ИЗМЕНЕНИЯ</translation>
+        <translation>ОТЛИЧИЯ</translation>
     </message>
     <message>
         <source>%1%2 - VANTRIX</source>
@@ -1172,7 +1172,7 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <name>ShellPages</name>
     <message>
         <source>CHANGES</source>
-        <translation>ИЗМЕНЕНИЯ</translation>
+        <translation>ОТЛИЧИЯ</translation>
     </message>
     <message>
         <source>HISTORY</source>

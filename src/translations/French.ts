@@ -587,7 +587,7 @@ Veuillez attribuer 1 à l’outil Rectangle arrondi dans Illustrator (Alt+Maj+Ct
     </message>
     <message>
         <source>DISABLE</source>
-        <translation>DÉSACTIVER</translation>
+        <translation>INACTIVE</translation>
     </message>
     <message>
         <source>F13</source>

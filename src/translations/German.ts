@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>DISABLE KEY</source>
-        <translation>TASTE DEAKTIVIEREN</translation>
+        <translation>TASTE SPERREN</translation>
     </message>
 </context>
 <context>
@@ -507,7 +507,7 @@ Bitte in Illustrator 1 dem Werkzeug für abgerundete Rechtecke zuweisen (Alt+Ums
     </message>
     <message>
         <source>DISABLED</source>
-        <translation>DEAKTIVIERT</translation>
+        <translation>GESPERRT</translation>
     </message>
     <message>
         <source>UNASSIGNED</source>
@@ -587,7 +587,7 @@ Bitte in Illustrator 1 dem Werkzeug für abgerundete Rechtecke zuweisen (Alt+Ums
     </message>
     <message>
         <source>DISABLE</source>
-        <translation>DEAKTIVIEREN</translation>
+        <translation>SPERREN</translation>
     </message>
     <message>
         <source>F13</source>
@@ -855,15 +855,15 @@ Bitte in Illustrator 1 dem Werkzeug für abgerundete Rechtecke zuweisen (Alt+Ums
     </message>
     <message>
         <source>LEFT CLICK</source>
-        <translation>LINKSKLICK</translation>
+        <translation>LINKER KLICK</translation>
     </message>
     <message>
         <source>RIGHT CLICK</source>
-        <translation>RECHTSKLICK</translation>
+        <translation>RECHTER KLICK</translation>
     </message>
     <message>
         <source>WHEEL CLICK</source>
-        <translation>RADKLICK</translation>
+        <translation>KLICK RAD</translation>
     </message>
     <message>
         <source>BACKWARD</source>

@@ -587,7 +587,7 @@ Assegnare 1 allo strumento Rettangolo arrotondato in Illustrator (Alt+Maiusc+Ctr
     </message>
     <message>
         <source>DISABLE</source>
-        <translation>DISATTIVA</translation>
+        <translation>INATTIVO</translation>
     </message>
     <message>
         <source>F13</source>

@@ -855,15 +855,15 @@ Illustrator で角丸長方形ツールに 1 を割り当ててください (Alt
     </message>
     <message>
         <source>LEFT CLICK</source>
-        <translation>左クリック</translation>
+        <translation>左 クリック</translation>
     </message>
     <message>
         <source>RIGHT CLICK</source>
-        <translation>右クリック</translation>
+        <translation>右 クリック</translation>
     </message>
     <message>
         <source>WHEEL CLICK</source>
-        <translation>ホイールクリック</translation>
+        <translation>ホイール クリック</translation>
     </message>
     <message>
         <source>BACKWARD</source>

@@ -587,7 +587,7 @@ Sila tetapkan 1 kepada alat Segi Empat Bucu Bulat dalam Illustrator (Alt+Shift+C
     </message>
     <message>
         <source>DISABLE</source>
-        <translation>LUMPUHKAN</translation>
+        <translation>LUMPUH</translation>
     </message>
     <message>
         <source>F13</source>

@@ -587,7 +587,7 @@ Atribua 1 à ferramenta Retângulo arredondado no Illustrator (Alt+Shift+Ctrl+K)
     </message>
     <message>
         <source>DISABLE</source>
-        <translation>DESATIVAR</translation>
+        <translation>INATIVA</translation>
     </message>
     <message>
         <source>F13</source>

@@ -587,7 +587,7 @@ Please assign 1 to Rounded Rectangle Tool in Illustrator(Alt+Shift+Ctrl+K)</sour
     </message>
     <message>
         <source>DISABLE</source>
-        <translation>ОТКЛЮЧИТЬ</translation>
+        <translation>ОТКЛ.</translation>
     </message>
     <message>
         <source>F13</source>
@@ -855,15 +855,15 @@ Please assign 1 to Rounded Rectangle Tool in Illustrator(Alt+Shift+Ctrl+K)</sour
     </message>
     <message>
         <source>LEFT CLICK</source>
-        <translation>ЛЕВЫЙ ЩЕЛЧОК</translation>
+        <translation>ЛЕВЫЙ КЛИК</translation>
     </message>
     <message>
         <source>RIGHT CLICK</source>
-        <translation>ПРАВЫЙ ЩЕЛЧОК</translation>
+        <translation>ПРАВЫЙ КЛИК</translation>
     </message>
     <message>
         <source>WHEEL CLICK</source>
-        <translation>НАЖАТИЕ КОЛЕСА</translation>
+        <translation>КЛИК КОЛЕСОМ</translation>
     </message>
     <message>
         <source>BACKWARD</source>
@@ -1003,11 +1003,11 @@ Please assign 1 to Rounded Rectangle Tool in Illustrator(Alt+Shift+Ctrl+K)</sour
     </message>
     <message>
         <source>PROFILE CYCLE+</source>
-        <translation>СЛЕДУЮЩИЙ ПРОФИЛЬ+</translation>
+        <translation>ПРОФИЛЬ ДАЛЕЕ+</translation>
     </message>
     <message>
         <source>PROFILE CYCLE-</source>
-        <translation>ПРЕДЫДУЩИЙ ПРОФИЛЬ-</translation>
+        <translation>ПРОФИЛЬ НАЗАД-</translation>
     </message>
     <message>
         <source>`</source>

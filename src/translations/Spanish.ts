@@ -587,7 +587,7 @@ Asigne 1 a la herramienta Rectángulo redondeado en Illustrator (Alt+Mayús+Ctrl
     </message>
     <message>
         <source>DISABLE</source>
-        <translation>DESACTIVAR</translation>
+        <translation>INACTIVA</translation>
     </message>
     <message>
         <source>F13</source>

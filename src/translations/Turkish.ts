@@ -587,7 +587,7 @@ Lütfen Illustrator’da Yuvarlatılmış Dikdörtgen aracına 1 atayın (Alt+Sh
     </message>
     <message>
         <source>DISABLE</source>
-        <translation>DEVRE DIŞI BIRAK</translation>
+        <translation>DEVRE DIŞI</translation>
     </message>
     <message>
         <source>F13</source>

@@ -18,6 +18,10 @@
 
 #include <functional>
 
+class tst_PageLife;
+using Action = std::function<void(tst_PageLife *)>;
+Q_DECLARE_METATYPE(Action)
+
 /// Whatever goes first, and at whatever moment: nothing crashes, and what is left works on.
 class tst_PageLife : public QObject, PageFixture
 {
@@ -41,8 +45,6 @@ private slots:
     void secondPageTakesTheKeyboardOver();
 
 private:
-    using Action = std::function<void(tst_PageLife *)>;
-
     QAbstractButton *input(int number) const
     {
         return find<InputWid>("m_inputWid")->findChild<QButtonGroup *>()->button(number);
@@ -353,8 +355,6 @@ void tst_PageLife::secondPageTakesTheKeyboardOver()
     delete m_page;
     QVERIFY(!m_hotKeys->capturing);
 }
-
-Q_DECLARE_METATYPE(std::function<void(tst_PageLife *)>)
 
 VANTRIX_TEST_MAIN(tst_PageLife)
 #include "tst_PageLife.moc"

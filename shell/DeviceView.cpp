@@ -18,6 +18,7 @@
 namespace {
 
 constexpr int WideEnough = 640; ///< for pad and log side by side
+constexpr int LeastEventWidth = 120;
 enum LogColumn { KeyColumn, DepthColumn, EventColumn, CodeColumn };
 
 } // namespace
@@ -102,6 +103,7 @@ QWidget *DeviceView::makeLog()
     auto *const head = new QHBoxLayout;
     auto *const title = new QLabel(tr("WHAT THE DEVICE SENDS"), box);
     title->setStyleSheet(ShellStyle::headingSheet());
+    title->setWordWrap(true);
     head->addWidget(title, 1);
     auto *const release = new QPushButton(tr("LET GO"), box);
     release->setObjectName(QStringLiteral("m_releaseBtn"));
@@ -126,6 +128,10 @@ QWidget *DeviceView::makeLog()
     m_log->header()->resizeSection(DepthColumn, metrics.horizontalAdvance(tr("DEPTH")) + 22);
     m_log->header()->resizeSection(CodeColumn, metrics.horizontalAdvance(tr("CODE")) + 22);
     m_log->header()->setSectionResizeMode(EventColumn, QHeaderView::Stretch);
+    int width = LeastEventWidth;
+    for (const int column : {KeyColumn, DepthColumn, CodeColumn})
+        width += m_log->header()->sectionSize(column);
+    m_log->setMinimumWidth(width);
     layout->addWidget(m_log, 1);
     connect(release, &QPushButton::clicked, this, &DeviceView::releaseAll);
     connect(clear, &QPushButton::clicked, m_log, &QTreeWidget::clear);

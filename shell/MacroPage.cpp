@@ -31,9 +31,9 @@ MacroPage::MacroPage(ShellContext &context, QWidget *parent) : QWidget(parent), 
     m_backBtn->hide();
     outer->addWidget(m_backBtn, 0, Qt::AlignLeft);
     m_columns = new QBoxLayout(QBoxLayout::TopToBottom);
-    m_columns->addWidget(makeList(), 2);
+    m_columns->addWidget(makeList(), 5);
     m_editor = new MacroEditor(context, this);
-    m_columns->addWidget(m_editor, 3);
+    m_columns->addWidget(m_editor, 7);
     outer->addLayout(m_columns, 1);
 
     connect(m_editor, &MacroEditor::macroNeeded, this, &MacroPage::addMacro);

@@ -23,9 +23,19 @@ int widthOf(const QLabel *label, const QString &text, int stretch)
     return width;
 }
 
+/// In two lines at most, as even as the blanks allow: there is no room for a third.
 QString broken(QString text)
 {
-    return text.replace(QLatin1Char(' '), QLatin1Char('\n'));
+    const int middle = text.size() / 2;
+    int best = -1;
+    for (int i = text.indexOf(QLatin1Char(' ')); i >= 0;
+         i = text.indexOf(QLatin1Char(' '), i + 1)) {
+        if (best < 0 || qAbs(i - middle) < qAbs(best - middle))
+            best = i;
+    }
+    if (best >= 0)
+        text[best] = QLatin1Char('\n');
+    return text;
 }
 
 } // namespace

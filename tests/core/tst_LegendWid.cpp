@@ -18,6 +18,7 @@ private slots:
     void cleanup() { m_window.reset(); }
     void wholeTextsWhereTheyFit();
     void brokenTextsWhereTheyDoNot();
+    void twoLinesAtMost();
     void neverWiderThanItsParent();
 
 private:
@@ -68,6 +69,15 @@ void tst_LegendWid::brokenTextsWhereTheyDoNot()
     for (const QLabel *const label : m_labels)
         width += 30 + label->width();
     QVERIFY2(width <= 260, qPrintable(QString::number(width)));
+}
+
+void tst_LegendWid::twoLinesAtMost()
+{
+    m_labels.at(1)->setAccessibleName("MANETTE DE JEU");
+    m_labels.at(2)->setAccessibleName("A VERY LONG NAME");
+    m_legend->resize(200, 38);
+    QCOMPARE(m_labels.at(1)->text(), QString("MANETTE\nDE JEU"));
+    QCOMPARE(m_labels.at(2)->text(), QString("A VERY\nLONG NAME"));
 }
 
 void tst_LegendWid::neverWiderThanItsParent()

@@ -432,8 +432,8 @@ void MainWindow::updateState()
                                          : tr("%1 keys to apply").arg(count);
     m_applied->setText(tr("Device: %1   |   %2   |").arg(narrowed(device), pending));
     m_applied->setToolTip(device);
-    m_shown->setText(narrowed(name));
     m_shown->setToolTip(name);
+    showName();
     m_saved->setText(store.isReadOnly() ? tr("READ ONLY")
                      : store.isSaved()  ? tr("Saved")
                                         : tr("NOT SAVED"));
@@ -481,8 +481,17 @@ void MainWindow::closeEvent(QCloseEvent *event)
     QMainWindow::closeEvent(event);
 }
 
+/// The name beside the tabs, as far as they leave room.
+void MainWindow::showName()
+{
+    const int room = m_shown->contentsRect().width();
+    m_shown->setText(fontMetrics().elidedText(m_shown->toolTip(), Qt::ElideRight, room));
+}
+
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_shown && event->type() == QEvent::Resize)
+        showName();
     // While the page captures, every key is meant for it, the window's shortcuts included.
     if (event->type() == QEvent::ShortcutOverride &&
         m_context.services().keyCapture().capturing()) {

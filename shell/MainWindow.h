@@ -62,6 +62,7 @@ private:
     void follow(const std::optional<StepOutcome> &outcome, const QString &text, int shown);
     void updateSteps();
     QString narrowed(const QString &name) const;
+    void showName();
     void updateState();
     void onSettingChanged(const QString &name);
 

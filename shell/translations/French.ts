@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>%1 is on the device. %2 See CHECK.</source>
-        <translation>%1 est sur l’appareil. %2 Voir VÉRIFICATION.</translation>
+        <translation>%1 est sur l’appareil. %2 Voir CONTRÔLE.</translation>
     </message>
     <message>
         <source>The first %1 are listed.</source>
@@ -701,7 +701,7 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
     <name>MainWindow</name>
     <message>
         <source>MAPPING</source>
-        <translation>ATTRIBUTION</translation>
+        <translation>TOUCHES</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -821,11 +821,11 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
     </message>
     <message>
         <source>CHANGES %1</source>
-        <translation>CHANGEMENTS %1</translation>
+        <translation>ÉCARTS %1</translation>
     </message>
     <message>
         <source>CHANGES</source>
-        <translation>CHANGEMENTS</translation>
+        <translation>ÉCARTS</translation>
     </message>
     <message>
         <source>%1%2 - VANTRIX</source>
@@ -841,11 +841,11 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
     </message>
     <message>
         <source>CHECK %1</source>
-        <translation>VÉRIFICATION %1</translation>
+        <translation>CONTRÔLE %1</translation>
     </message>
     <message>
         <source>CHECK</source>
-        <translation>VÉRIFICATION</translation>
+        <translation>CONTRÔLE</translation>
     </message>
     <message>
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
@@ -1172,7 +1172,7 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
     <name>ShellPages</name>
     <message>
         <source>CHANGES</source>
-        <translation>CHANGEMENTS</translation>
+        <translation>ÉCARTS</translation>
     </message>
     <message>
         <source>HISTORY</source>
@@ -1188,7 +1188,7 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
     </message>
     <message>
         <source>CHECK</source>
-        <translation>VÉRIFICATION</translation>
+        <translation>CONTRÔLE</translation>
     </message>
     <message>
         <source>Import profiles...</source>

@@ -701,7 +701,7 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
     <name>MainWindow</name>
     <message>
         <source>MAPPING</source>
-        <translation>ASSEGNAZIONE</translation>
+        <translation>TASTI</translation>
     </message>
     <message>
         <source>&amp;File</source>

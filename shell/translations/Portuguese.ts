@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>%1 is on the device. %2 See CHECK.</source>
-        <translation>%1 está no dispositivo. %2 Ver VERIFICAÇÃO.</translation>
+        <translation>%1 está no dispositivo. %2 Ver REVISÃO.</translation>
     </message>
     <message>
         <source>The first %1 are listed.</source>
@@ -701,7 +701,7 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
     <name>MainWindow</name>
     <message>
         <source>MAPPING</source>
-        <translation>ATRIBUIÇÃO</translation>
+        <translation>TECLAS</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -841,11 +841,11 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
     </message>
     <message>
         <source>CHECK %1</source>
-        <translation>VERIFICAÇÃO %1</translation>
+        <translation>REVISÃO %1</translation>
     </message>
     <message>
         <source>CHECK</source>
-        <translation>VERIFICAÇÃO</translation>
+        <translation>REVISÃO</translation>
     </message>
     <message>
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
@@ -1188,7 +1188,7 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
     </message>
     <message>
         <source>CHECK</source>
-        <translation>VERIFICAÇÃO</translation>
+        <translation>REVISÃO</translation>
     </message>
     <message>
         <source>Import profiles...</source>

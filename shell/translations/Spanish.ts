@@ -701,7 +701,7 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
     <name>MainWindow</name>
     <message>
         <source>MAPPING</source>
-        <translation>ASIGNACIÓN</translation>
+        <translation>TECLAS</translation>
     </message>
     <message>
         <source>&amp;File</source>

@@ -667,11 +667,11 @@ Veuillez attribuer 1 à l’outil Rectangle arrondi dans Illustrator (Alt+Maj+Ct
     </message>
     <message>
         <source>LED DARKER-</source>
-        <translation>LED PLUS SOMBRES-</translation>
+        <translation>ÉCLAT LED-</translation>
     </message>
     <message>
         <source>LED BRIGHTER+</source>
-        <translation>LED PLUS CLAIRES+</translation>
+        <translation>ÉCLAT LED+</translation>
     </message>
     <message>
         <source>L TRIGGER</source>

@@ -479,7 +479,7 @@ Assegnare 1 allo strumento Rettangolo arrotondato in Illustrator (Alt+Maiusc+Ctr
     </message>
     <message>
         <source>GAME CONTROLLER</source>
-        <translation>CONTROLLER DI GIOCO</translation>
+        <translation>CONTROLLER</translation>
     </message>
     <message>
         <source>APPLICATION</source>
@@ -667,11 +667,11 @@ Assegnare 1 allo strumento Rettangolo arrotondato in Illustrator (Alt+Maiusc+Ctr
     </message>
     <message>
         <source>LED DARKER-</source>
-        <translation>LED PIÙ SCURI-</translation>
+        <translation>LUCE LED-</translation>
     </message>
     <message>
         <source>LED BRIGHTER+</source>
-        <translation>LED PIÙ CHIARI+</translation>
+        <translation>LUCE LED+</translation>
     </message>
     <message>
         <source>L TRIGGER</source>

@@ -667,11 +667,11 @@ Sila tetapkan 1 kepada alat Segi Empat Bucu Bulat dalam Illustrator (Alt+Shift+C
     </message>
     <message>
         <source>LED DARKER-</source>
-        <translation>LED LEBIH MALAP-</translation>
+        <translation>LED MALAP-</translation>
     </message>
     <message>
         <source>LED BRIGHTER+</source>
-        <translation>LED LEBIH CERAH+</translation>
+        <translation>LED CERAH+</translation>
     </message>
     <message>
         <source>L TRIGGER</source>

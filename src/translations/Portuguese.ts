@@ -479,7 +479,7 @@ Atribua 1 à ferramenta Retângulo arredondado no Illustrator (Alt+Shift+Ctrl+K)
     </message>
     <message>
         <source>GAME CONTROLLER</source>
-        <translation>COMANDO DE JOGO</translation>
+        <translation>COMANDO</translation>
     </message>
     <message>
         <source>APPLICATION</source>
@@ -667,11 +667,11 @@ Atribua 1 à ferramenta Retângulo arredondado no Illustrator (Alt+Shift+Ctrl+K)
     </message>
     <message>
         <source>LED DARKER-</source>
-        <translation>MENOS BRILHO LED-</translation>
+        <translation>BRILHO LED-</translation>
     </message>
     <message>
         <source>LED BRIGHTER+</source>
-        <translation>MAIS BRILHO LED+</translation>
+        <translation>BRILHO LED+</translation>
     </message>
     <message>
         <source>L TRIGGER</source>

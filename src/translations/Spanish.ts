@@ -479,7 +479,7 @@ Asigne 1 a la herramienta Rectángulo redondeado en Illustrator (Alt+Mayús+Ctrl
     </message>
     <message>
         <source>GAME CONTROLLER</source>
-        <translation>MANDO DE JUEGO</translation>
+        <translation>MANDO</translation>
     </message>
     <message>
         <source>APPLICATION</source>
@@ -667,11 +667,11 @@ Asigne 1 a la herramienta Rectángulo redondeado en Illustrator (Alt+Mayús+Ctrl
     </message>
     <message>
         <source>LED DARKER-</source>
-        <translation>MENOS BRILLO LED-</translation>
+        <translation>BRILLO LED-</translation>
     </message>
     <message>
         <source>LED BRIGHTER+</source>
-        <translation>MÁS BRILLO LED+</translation>
+        <translation>BRILLO LED+</translation>
     </message>
     <message>
         <source>L TRIGGER</source>

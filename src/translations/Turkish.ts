@@ -667,11 +667,11 @@ Lütfen Illustrator’da Yuvarlatılmış Dikdörtgen aracına 1 atayın (Alt+Sh
     </message>
     <message>
         <source>LED DARKER-</source>
-        <translation>LED DAHA KOYU-</translation>
+        <translation>LED KOYU-</translation>
     </message>
     <message>
         <source>LED BRIGHTER+</source>
-        <translation>LED DAHA PARLAK+</translation>
+        <translation>LED PARLAK+</translation>
     </message>
     <message>
         <source>L TRIGGER</source>

@@ -479,7 +479,7 @@ Vui lòng gán 1 cho công cụ Hình chữ nhật bo góc trong Illustrator (Al
     </message>
     <message>
         <source>GAME CONTROLLER</source>
-        <translation>TAY CẦM CHƠI GAME</translation>
+        <translation>TAY CẦM</translation>
     </message>
     <message>
         <source>APPLICATION</source>
@@ -667,11 +667,11 @@ Vui lòng gán 1 cho công cụ Hình chữ nhật bo góc trong Illustrator (Al
     </message>
     <message>
         <source>LED DARKER-</source>
-        <translation>GIẢM SÁNG LED-</translation>
+        <translation>LED TỐI-</translation>
     </message>
     <message>
         <source>LED BRIGHTER+</source>
-        <translation>TĂNG SÁNG LED+</translation>
+        <translation>LED SÁNG+</translation>
     </message>
     <message>
         <source>L TRIGGER</source>

@@ -3,6 +3,7 @@
 #include "ShellFixture.h"
 #include "core/VantrixMapWid.h"
 #include "interfaces/Modal.h"
+#include "shell/Language.h"
 #include "shell/MappingView.h"
 #include "shell/MessageBar.h"
 #include "shell/ProfileList.h"
@@ -51,6 +52,7 @@ private slots:
     void goToShowsTheKey();
     void goToInTheShownProfile();
     void languageKeepsTheSelection();
+    void languageIsSpokenAtOnce();
     void captureCanBeForbidden();
     void captureKeepsShortcutsOut();
     void captureEndsElsewhere();
@@ -101,6 +103,7 @@ void tst_MainWindow::cleanup()
     Modal::setAnswerer(nullptr);
     m_window.reset();
     m_shell.reset();
+    Language::install(Language::parse(QStringLiteral("English")));
 }
 
 void tst_MainWindow::assign(int index, const char *entry)
@@ -505,6 +508,17 @@ void tst_MainWindow::languageKeepsTheSelection()
     QCOMPARE(m_shell->services.environment().getLanguage(), 2);
     QVERIFY(key(7)->isChecked());
     QVERIFY(page()->isVisible());
+}
+
+void tst_MainWindow::languageIsSpokenAtOnce()
+{
+    const QSignalSpy changed(m_window.get(), &MainWindow::languageChanged);
+    m_shell->store().setSetting(QStringLiteral("language"), QStringLiteral("4"));
+    m_shell->store().flush();
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(child<QPushButton>(page(), "m_apply")->text(), QStringLiteral("ÜBERNEHMEN"));
+    m_window = std::make_unique<MainWindow>(m_shell->context);
+    QCOMPARE(child<QPushButton>(m_window.get(), "m_tab0")->text(), QStringLiteral("BELEGUNG"));
 }
 
 void tst_MainWindow::captureCanBeForbidden()

@@ -305,6 +305,19 @@ bool ReassignDlg::focusNextPrevChild(bool next)
     return QDialog::focusNextPrevChild(next);
 }
 
+/// The pointer leaves with the window, and nobody tells what was under it: a button would still be
+/// lit when the dialog opens again.
+void ReassignDlg::hideEvent(QHideEvent *event)
+{
+    QDialog::hideEvent(event);
+    const auto children = findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        QEvent leave(QEvent::Leave);
+        if (child->underMouse())
+            QCoreApplication::sendEvent(child, &leave);
+    }
+}
+
 void ReassignDlg::keyPressEvent(QKeyEvent *event)
 {
     // What has the focus has had its turn; a dialog would press a button of its own choice.

@@ -56,6 +56,7 @@ signals:
 
 protected:
     bool focusNextPrevChild(bool next) override;
+    void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 

@@ -20,6 +20,8 @@ private slots:
     void centresItsPanel_data();
     void centresItsPanel();
     void paintsTheVeil();
+    void forgetsThePointer_data();
+    void forgetsThePointer();
     void runsModally();
     void tabOrderFollowsReading();
     void destroyedWhileOpen();
@@ -167,6 +169,28 @@ void tst_ReassignDlgWindow::paintsTheVeil()
         QCOMPARE(image.pixelColor(2, 2), QColor(0, 0, 0, 200));
     });
     QVERIFY(m_dialog->testAttribute(Qt::WA_TranslucentBackground));
+}
+
+void tst_ReassignDlgWindow::forgetsThePointer_data()
+{
+    QTest::addColumn<QString>("under");
+    for (const char *name : {"m_apply", "m_cancel", "m_close", "m_createBtn"})
+        QTest::newRow(name) << name;
+}
+
+void tst_ReassignDlgWindow::forgetsThePointer()
+{
+    QFETCH(QString, under);
+    open(0, 3, plainKey(4), [&] {
+        m_dialog->show();
+        auto *const lit = child<QPushButton>(m_dialog.get(), under);
+        QEnterEvent enter(QPointF(2, 2), QPointF(2, 2), QPointF(2, 2));
+        QCoreApplication::sendEvent(lit, &enter);
+        QVERIFY(lit->underMouse());
+        lit->click();
+        QVERIFY(!m_dialog->isVisible());
+        QVERIFY(!lit->underMouse());
+    });
 }
 
 void tst_ReassignDlgWindow::runsModally()

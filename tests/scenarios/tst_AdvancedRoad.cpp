@@ -24,6 +24,7 @@ private slots:
     void cleanup();
 
     void record();
+    void hotKey();
     void everyPageHasItsWay();
 
 private:
@@ -33,6 +34,8 @@ private:
     void reassign(const std::function<void(ReassignDlg *dialog)> &user);
     /// Goes on with Tab until that widget has the focus, or one whose name starts so.
     void tabTo(const QString &name);
+    /// Goes on with Tab until the button with that text has the focus.
+    void tabToText(const QString &text);
     /// Goes on with arrows, from one button of a group to another.
     void arrowTo(const QPushButton *button);
     static QString focusName();
@@ -82,6 +85,18 @@ void tst_AdvancedRoad::tabTo(const QString &name)
     for (int i = 0; i < patience && !focusName().startsWith(name); ++i)
         XGestures::key(QStringLiteral("Tab"));
     QVERIFY2(focusName().startsWith(name), qPrintable(focusName()));
+}
+
+void tst_AdvancedRoad::tabToText(const QString &text)
+{
+    const auto isThere = [&text] {
+        const auto *const button = qobject_cast<QPushButton *>(QApplication::focusWidget());
+        return button && button->text() == text;
+    };
+    constexpr int patience = 40;
+    for (int i = 0; i < patience && !isThere(); ++i)
+        XGestures::key(QStringLiteral("Tab"));
+    QVERIFY2(isThere(), qPrintable(text));
 }
 
 void tst_AdvancedRoad::arrowTo(const QPushButton *button)
@@ -168,6 +183,36 @@ void tst_AdvancedRoad::record()
     XGestures::key(QStringLiteral("space"));
     const auto &sent = m_services->device().image(0, 0).keys[7].content.mapping;
     QCOMPARE(ushort(sent.code), ushort(488));
+}
+
+/// Four titles down the shipped catalog, with a search on the way.
+void tst_AdvancedRoad::hotKey()
+{
+    selectKey(5);
+    reassign([this](ReassignDlg *dialog) {
+        for (int page = 1; page <= 5; ++page)
+            XGestures::key(QStringLiteral("Down"));
+        QCOMPARE(child<QStackedWidget>(dialog, "m_stacked")->currentIndex(), 5);
+        tabTo(QStringLiteral("m_search"));
+        XGestures::type(QStringLiteral("save a"));
+        for (const char *title : {"PHOTOSHOP", "MENUS", "FILE", "SAVE AND EXPORT"}) {
+            tabToText(QLatin1String(title));
+            XGestures::key(QStringLiteral("space"));
+        }
+        XGestures::key(QStringLiteral("Tab"));
+        const auto *const picked = qobject_cast<QPushButton *>(QApplication::focusWidget());
+        QVERIFY(picked);
+        QVERIFY2(picked->text().startsWith(QLatin1String("SAVE A")), qPrintable(picked->text()));
+        tabToText(QStringLiteral("SAVE AS"));
+        XGestures::key(QStringLiteral("space"));
+        tabTo(QStringLiteral("m_apply"));
+        XGestures::key(QStringLiteral("Return"));
+        QVERIFY(!dialog->isVisible());
+    });
+    vantrix_hotkey_assign assigned;
+    QVERIFY(m_services->store().getHotKeyAssign(0, 0, 5, &assigned));
+    QCOMPARE(assigned.keyName, QStringLiteral("SAVE AS"));
+    QCOMPARE(assigned.hotKey, QStringLiteral("CTRL+SHIFT+S"));
 }
 
 void tst_AdvancedRoad::everyPageHasItsWay()

@@ -276,6 +276,7 @@ void MacroPage::duplicateMacro()
 
 void MacroPage::renameMacro()
 {
+    m_macroList->setFocus(); // takes over a name that is being edited
     if (QTreeWidgetItem *const item = m_macroList->currentItem())
         m_macroList->editItem(item, NameColumn);
 }

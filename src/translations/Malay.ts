@@ -831,19 +831,19 @@ Sila tetapkan 1 kepada alat Segi Empat Bucu Bulat dalam Illustrator (Alt+Shift+C
     </message>
     <message>
         <source>CURSOR UP</source>
-        <translation>KURSOR KE ATAS</translation>
+        <translation>KURSOR ATAS</translation>
     </message>
     <message>
         <source>CURSOR RIGHT</source>
-        <translation>KURSOR KE KANAN</translation>
+        <translation>KURSOR KANAN</translation>
     </message>
     <message>
         <source>CURSOR DOWN</source>
-        <translation>KURSOR KE BAWAH</translation>
+        <translation>KURSOR BAWAH</translation>
     </message>
     <message>
         <source>CURSOR LEFT</source>
-        <translation>KURSOR KE KIRI</translation>
+        <translation>KURSOR KIRI</translation>
     </message>
     <message>
         <source>SCROLL UP</source>

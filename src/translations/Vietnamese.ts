@@ -831,19 +831,19 @@ Vui lòng gán 1 cho công cụ Hình chữ nhật bo góc trong Illustrator (Al
     </message>
     <message>
         <source>CURSOR UP</source>
-        <translation>CON TRỎ LÊN</translation>
+        <translation>TRỎ LÊN</translation>
     </message>
     <message>
         <source>CURSOR RIGHT</source>
-        <translation>CON TRỎ PHẢI</translation>
+        <translation>TRỎ PHẢI</translation>
     </message>
     <message>
         <source>CURSOR DOWN</source>
-        <translation>CON TRỎ XUỐNG</translation>
+        <translation>TRỎ XUỐNG</translation>
     </message>
     <message>
         <source>CURSOR LEFT</source>
-        <translation>CON TRỎ TRÁI</translation>
+        <translation>TRỎ TRÁI</translation>
     </message>
     <message>
         <source>SCROLL UP</source>

@@ -62,6 +62,7 @@ SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
     }
     form->addRow(tr("Keys with &macros in a profile:"), m_macroAssigns);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    buttons->button(QDialogButtonBox::Cancel)->setText(tr("CANCEL"));
     form->addRow(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &SettingsDlg::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &SettingsDlg::reject);

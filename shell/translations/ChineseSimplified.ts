@@ -1167,6 +1167,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>BROWSE</source>
         <translation>浏览</translation>
     </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -1167,6 +1167,10 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
         <source>BROWSE</source>
         <translation>PARCOURIR</translation>
     </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>ANNULER</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

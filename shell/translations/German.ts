@@ -1167,6 +1167,10 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
         <source>BROWSE</source>
         <translation>DURCHSUCHEN</translation>
     </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>ABBRECHEN</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -1167,6 +1167,10 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
         <source>BROWSE</source>
         <translation>SFOGLIA</translation>
     </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>ANNULLA</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

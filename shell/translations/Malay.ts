@@ -1167,6 +1167,10 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
         <source>BROWSE</source>
         <translation>SEMAK IMBAS</translation>
     </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>BATAL</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -1167,6 +1167,10 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
         <source>BROWSE</source>
         <translation>PROCURAR</translation>
     </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>CANCELAR</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

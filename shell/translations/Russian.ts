@@ -1167,6 +1167,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>BROWSE</source>
         <translation>ОБЗОР</translation>
     </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>ОТМЕНА</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -1167,6 +1167,10 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
         <source>BROWSE</source>
         <translation>EXAMINAR</translation>
     </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>CANCELAR</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

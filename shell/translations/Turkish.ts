@@ -1167,6 +1167,10 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
         <source>BROWSE</source>
         <translation>GÖZAT</translation>
     </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>İPTAL</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

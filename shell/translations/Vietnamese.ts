@@ -1167,6 +1167,10 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
         <source>BROWSE</source>
         <translation>DUYỆT</translation>
     </message>
+    <message>
+        <source>CANCEL</source>
+        <translation>HỦY</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -7,6 +7,7 @@
 #include "shell/Language.h"
 #include "shell/MainWindow.h"
 #include "shell/MappingView.h"
+#include "shell/PadView.h"
 #include "shell/SettingsDlg.h"
 #include "shell/ShellStyle.h"
 #include "vocabulary/AppTables.h"
@@ -245,8 +246,14 @@ private:
         draw("macros", ShellPage::Macros, Window);
         m_window.showPage(ShellPage::Device);
         settle(Window);
+        for (const int key : {0, 4, 7}) {
+            auto *const pad = get<PadView>("m_pad");
+            pad->setCurrentKey(key);
+            emit pad->currentKeyChanged(key);
+            for (const int depth : {30, 70, 30, 0})
+                get<QSlider>("m_depth")->setValue(depth);
+        }
         get<QSlider>("m_depth")->setValue(70);
-        get<QSlider>("m_depth")->setValue(0);
         draw("device", ShellPage::Device, Window);
     }
 

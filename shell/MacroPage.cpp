@@ -121,7 +121,7 @@ void MacroPage::refresh()
 {
     const QStringList names = m_context.store().state().macroNames(m_context.owner());
     if (!names.contains(m_current))
-        m_current = names.isEmpty() ? QString() : names.last();
+        m_current = names.value(0);
     refreshList();
     m_editor->showMacro(m_current);
     refreshUses();

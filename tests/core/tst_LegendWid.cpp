@@ -19,6 +19,7 @@ private slots:
     void wholeTextsWhereTheyFit();
     void brokenTextsWhereTheyDoNot();
     void twoLinesAtMost();
+    void narrowLettersWhereLinesAreTooLong();
     void neverWiderThanItsParent();
 
 private:
@@ -78,6 +79,20 @@ void tst_LegendWid::twoLinesAtMost()
     m_legend->resize(200, 38);
     QCOMPARE(m_labels.at(1)->text(), QString("MANETTE\nDE JEU"));
     QCOMPARE(m_labels.at(2)->text(), QString("A VERY\nLONG NAME"));
+}
+
+void tst_LegendWid::narrowLettersWhereLinesAreTooLong()
+{
+    QVERIFY(m_legend->testAttribute(Qt::WA_StyledBackground));
+    m_legend->resize(600, 38);
+    QCOMPARE(m_labels.at(1)->font().stretch(), int(QFont::Unstretched));
+    m_legend->resize(210, 38);
+    for (const QLabel *const label : m_labels) {
+        QVERIFY(label->font().stretch() < int(QFont::Unstretched));
+        QCOMPARE(label->minimumWidth(), label->maximumWidth());
+    }
+    m_legend->resize(600, 38);
+    QCOMPARE(m_labels.at(1)->font().stretch(), int(QFont::Unstretched));
 }
 
 void tst_LegendWid::neverWiderThanItsParent()

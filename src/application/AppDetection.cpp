@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QSettings>
+#include <QThreadPool>
 #include <QtConcurrentRun>
 
 namespace {
@@ -42,12 +43,21 @@ QString findPath(int appType)
     return path;
 }
 
+/// Detects without taking one of the pool's threads from others: the interface thread, too, waits
+/// for the pool when it converts large pictures.
+void detectAside(int appType)
+{
+    QThreadPool::globalInstance()->releaseThread();
+    AppDetection::detect(appType);
+    QThreadPool::globalInstance()->reserveThread();
+}
+
 } // namespace
 
 void AppDetection::start()
 {
     for (int appType = 0; appType <= 2; ++appType)
-        QtConcurrent::run([appType] { detect(appType); });
+        QtConcurrent::run(detectAside, appType);
 }
 
 void AppDetection::detect(int appType)

@@ -13,6 +13,7 @@
 
 #include <QAbstractItemView>
 #include <QButtonGroup>
+#include <QSemaphore>
 #include <QTimer>
 #include <QToolButton>
 
@@ -39,6 +40,7 @@ private slots:
     void diesByItsOwnClick_data();
     void diesByItsOwnClick();
     void diesWhileItCaptures();
+    void diesWhileItDetects();
     void mainWidgetGoesFirst();
     void withoutAMainWidget();
     void twoPagesOnOneStore();
@@ -242,6 +244,33 @@ void tst_PageLife::diesWhileItCaptures()
     delete m_page;
     QVERIFY(!isCapturing());
     QVERIFY(!QWidget::keyboardGrabber());
+}
+
+void tst_PageLife::diesWhileItDetects()
+{
+    // One thread for everything, and the page's pictures are converted with its help.
+    auto *const pool = QThreadPool::globalInstance();
+    const int threads = pool->maxThreadCount();
+    pool->waitForDone();
+    pool->setMaxThreadCount(1);
+    const int written = m_store->setAppPathCount;
+    QSemaphore running;
+    QSemaphore answers;
+    m_store->beforeAppPath = [&] {
+        running.release();
+        answers.tryAcquire(1, 20000);
+    };
+    auto *const page = new VantrixMapWid(6, m_window.get());
+    const bool allRun = running.tryAcquire(3, 10000);
+    delete page;
+    const int writtenSince = m_store->setAppPathCount - written;
+    answers.release(3);
+    pool->waitForDone();
+    pool->setMaxThreadCount(threads);
+    m_store->beforeAppPath = nullptr;
+    QVERIFY(allRun);
+    QCOMPARE(writtenSince, 0);
+    QCOMPARE(m_store->setAppPathCount, written + 3);
 }
 
 void tst_PageLife::mainWidgetGoesFirst()

@@ -54,6 +54,8 @@ void FakeProfileCfg::note(const char *call, Arguments... arguments)
 
 void FakeProfileCfg::getAppPath(int appType, QString &path)
 {
+    if (beforeAppPath)
+        beforeAppPath();
     const QMutexLocker lock(&m_pathMutex);
     path = m_appPaths[appType];
 }

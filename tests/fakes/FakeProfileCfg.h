@@ -42,6 +42,8 @@ public:
     int shortcutBase = 0;
     bool pressoEnabled = true;
     int setAppPathCount = 0;
+    /// Runs on the thread that asks for an application path, before it gets an answer.
+    std::function<void()> beforeAppPath;
 
     // clang-format off
     void getAppPath(int appType, QString &path) override;

@@ -73,6 +73,7 @@ private slots:
     void macrosOfTheDialog();
     void createMacroIsPassedOn();
     void deletedMacro();
+    void deletionRenumbersTheFaces();
     void updateMacroAssign();
     void winShortcutKeys();
     void wholeRoadInSimpleMode();
@@ -579,14 +580,18 @@ void tst_VantrixMapWid::presets()
 void tst_VantrixMapWid::presetAfterPreset()
 {
     const int inputs[] = {0, 0, 0, 4, 4, 4, 5, 5, 5};
+    const auto faceOf = [this](int index) {
+        const QImage icon = key(index)->icon().pixmap(30).toImage();
+        return QVariantList{key(index)->text(), key(index)->styleSheet(), icon};
+    };
     for (int second = 0; second < 9; ++second) {
         profile(100 + second) = {};
         m_page->updateUi(100 + second);
         m_page->slotPanelChanged(inputs[second], second);
         const FakeProfileCfg::Profile alone = profile(100 + second);
-        QStringList faces;
+        QList<QVariantList> faces;
         for (int index = 0; index < 28; ++index)
-            faces << key(index)->text() + key(index)->styleSheet();
+            faces << faceOf(index);
         for (int first = 0; first < 9; ++first) {
             profile(200) = {};
             m_page->updateUi(200);
@@ -596,10 +601,8 @@ void tst_VantrixMapWid::presetAfterPreset()
             QVERIFY(both.keys == alone.keys);
             QVERIFY(both.apps == alone.apps);
             QVERIFY(both.extended == alone.extended);
-            QStringList after;
             for (int index = 0; index < 28; ++index)
-                after << key(index)->text() + key(index)->styleSheet();
-            QCOMPARE(after, faces);
+                QCOMPARE(faceOf(index), faces.at(index));
         }
     }
 }
@@ -725,6 +728,26 @@ void tst_VantrixMapWid::deletedMacro()
     QCOMPARE(profile().keys.at(7), plainKey(255));
     m_page->slotDelKeyAssignMacro("never heard of");
     QCOMPARE(told.count(), 1);
+}
+
+void tst_VantrixMapWid::deletionRenumbersTheFaces()
+{
+    profile().macros = {{7, "one"}, {8, "two"}, {9, "same"}};
+    for (const char *name : {"one", "two", "same", "same"})
+        m_page->slotAddKeyAssignMacro(name);
+    m_page->updateKeyMapping();
+    m_page->slotUpdateMacroAssign();
+    const auto faces = [this] {
+        return QStringList({key(7)->text(), key(8)->text(), key(9)->text()});
+    };
+    QCOMPARE(faces().mid(0, 2), QStringList({"M1", "M2"}));
+    m_page->slotDelKeyAssignMacro("one");
+    m_page->slotUpdateMacroAssign();
+    QCOMPARE(profile().keys.at(7), plainKey(255));
+    QVERIFY(key(7)->text() != QString("M1"));
+    QCOMPARE(key(8)->text(), QString("M1"));
+    QCOMPARE(key(8)->toolTip(), QString("two"));
+    QVERIFY(profile().macros == (std::map<uchar, std::string>{{8, "two"}, {9, "same"}}));
 }
 
 void tst_VantrixMapWid::updateMacroAssign()

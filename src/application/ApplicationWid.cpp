@@ -9,6 +9,16 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include <algorithm>
+
+namespace {
+
+constexpr int Margin = 15;
+/// A header and the better part of a function.
+constexpr int LeastContent = 60;
+
+} // namespace
+
 ApplicationWid::ApplicationWid(QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::ApplicationUi>()), m_group(new ButtonGroupEx(this))
 {
@@ -33,6 +43,14 @@ void ApplicationWid::addSection(int appType)
             &ApplicationBtn::slotVantrixKeySelected);
     m_ui->m_layout->addWidget(section);
     m_group->addButton(section->typeButton());
+}
+
+void ApplicationWid::resizeEvent(QResizeEvent *event)
+{
+    // What is around the sections gives way before they do.
+    const int margin = std::clamp((height() - LeastContent) / 2, 0, Margin);
+    m_ui->verticalLayout_2->setContentsMargins(margin, margin, margin, margin);
+    QWidget::resizeEvent(event);
 }
 
 void ApplicationWid::resetPanel()

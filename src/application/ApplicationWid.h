@@ -31,6 +31,9 @@ signals:
     /// Emitted into the panel: the selected key carries no function. Closes all sections.
     void sigVantrixKeySelected();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void addSection(int appType);
 

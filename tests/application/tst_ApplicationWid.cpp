@@ -130,6 +130,7 @@ private slots:
     void folderButtonOfAClosedSection();
     void folderButtonLeavesTheHeaderAlone();
     void windowGoesDuringTheDialog();
+    void headerShowsWhereItIsLow();
     void staysInside_data();
     void staysInside();
 
@@ -476,6 +477,18 @@ void tst_ApplicationWid::windowGoesDuringTheDialog()
     });
     clickOn(folder(1));
     QVERIFY(dialog.isNull());
+}
+
+void tst_ApplicationWid::headerShowsWhereItIsLow()
+{
+    emit m_panel->sigApplicationSelected(0, 5);
+    m_panel->resize(130, 49);
+    QCoreApplication::processEvents();
+    QCOMPARE(header(0)->visibleRegion().boundingRect().height(), 30);
+    m_panel->resize(261, 98);
+    QCoreApplication::processEvents();
+    const auto *const layout = child<QLayout>(m_panel, "verticalLayout_2");
+    QCOMPARE(layout->contentsMargins(), QMargins(15, 15, 15, 15));
 }
 
 void tst_ApplicationWid::staysInside_data()

@@ -93,6 +93,8 @@ PanelPtr dualAction()
     auto panel = std::make_unique<DualActionWid>();
     panel->slotDualActionSelected(InputType::Keyboard, InputType::Mouse,
                                   {FirstAction, SecondAction, DualType::Normal, 60});
+    // Its menus do not get lower, and the page sees to their room.
+    panel->setMinimumHeight(panel->minimumSizeHint().height());
     return panel;
 }
 

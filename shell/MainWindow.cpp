@@ -249,7 +249,7 @@ void MainWindow::connectContext()
     connect(&m_context, &ShellContext::newMacroRequested, this,
             [this] { showPage(ShellPage::Macros); });
     connect(&m_context, &ShellContext::historyRequested, this, &MainWindow::travelTo);
-    connect(&m_context, &ShellContext::status, m_status, &QLabel::setText);
+    connect(&m_context, &ShellContext::status, this, &MainWindow::say);
     connect(&m_context, &ShellContext::profileShown, this, &MainWindow::updateState);
     connect(&store, &ProfileStore::profileChanged, this, &MainWindow::updateState);
     connect(&store, &ProfileStore::macrosChanged, this, &MainWindow::updateState);
@@ -280,7 +280,6 @@ void MainWindow::restore()
     m_mapping->showProfile(profile, key);
     updateSteps();
     sayWhatIsPending();
-    m_isRestored = true;
 }
 
 void MainWindow::sayWhatIsPending()
@@ -292,12 +291,17 @@ void MainWindow::sayWhatIsPending()
             names << state.profileName(m_context.owner(), profile);
     }
     if (!names.isEmpty())
-        m_firstStatus = tr("Not on the device yet: %1.").arg(names.join(tr(", ")));
+        say(tr("Not on the device yet: %1.").arg(names.join(tr(", "))));
     else if (m_context.store().stepNames().isEmpty())
-        m_firstStatus = tr("Click a key of the pad, then choose what it does.");
+        say(tr("Click a key of the pad, then choose what it does."));
     else
-        m_firstStatus = tr("Everything is on the device.");
-    m_status->setText(m_firstStatus);
+        say(tr("Everything is on the device."));
+}
+
+void MainWindow::say(const QString &text)
+{
+    m_status->setText(text);
+    m_stepOfStatus = m_context.store().undoName();
 }
 
 void MainWindow::sayWhoHasTheKeyboard()
@@ -400,9 +404,10 @@ void MainWindow::updateSteps()
     m_undo->setIconText(QStringLiteral("↶"));
     m_redo->setIconText(QStringLiteral("↷"));
     m_undo->setToolTip(tr("Undo %1 (Ctrl+Z)").arg(store.undoName()));
-    // What was said at the start does not hold for long.
-    if (store.canUndo() && m_status->text() == m_firstStatus && m_isRestored)
-        m_status->setText(store.undoName());
+    // What was said before another step does not hold any more.
+    const bool isHint = !m_captureHint.isEmpty() && m_status->text() == m_captureHint;
+    if (store.canUndo() && store.undoName() != m_stepOfStatus && !isHint)
+        say(store.undoName());
     m_redo->setToolTip(tr("Redo %1 (Ctrl+Shift+Z)").arg(store.redoName()));
 }
 

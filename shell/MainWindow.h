@@ -56,6 +56,7 @@ private:
     void makeViewMenu();
     void connectContext();
     void restore();
+    void say(const QString &text);
     void sayWhatIsPending();
     void sayWhoHasTheKeyboard();
     void arrange();
@@ -82,8 +83,7 @@ private:
     QLabel *m_status = nullptr;
     QLabel *m_applied = nullptr;
     QLabel *m_saved = nullptr;
-    QString m_firstStatus;
+    QString m_stepOfStatus; ///< last step when the status was said
     QString m_captureHint;
-    bool m_isRestored = false;
     ShellPage m_page = ShellPage::Mapping;
 };

@@ -35,6 +35,7 @@ private slots:
     void undoOfADepth();
     void undoGoesToItsProfile();
     void stepsHaveNames();
+    void statusKeepsUpWithSteps();
     void historyTravels();
     void randomEditsUndone();
     void putBackShows();
@@ -232,6 +233,19 @@ void tst_MainWindow::stepsHaveNames()
     m_window->undo();
     QVERIFY(named(QStringLiteral("Redo Assign B to key 7")));
     QVERIFY(!named(QStringLiteral("Undo")));
+}
+
+void tst_MainWindow::statusKeepsUpWithSteps()
+{
+    assign(7, "btn_48");
+    click("m_apply");
+    QCOMPARE(said(), QStringLiteral("PROFILE 1 is on the device."));
+    assign(8, "btn_48");
+    QCOMPARE(said(), QStringLiteral("Assign B to key 8"));
+    m_window->undo();
+    QCOMPARE(said(), QStringLiteral("Undone: Assign B to key 8"));
+    assign(9, "btn_48");
+    QCOMPARE(said(), QStringLiteral("Assign B to key 9"));
 }
 
 void tst_MainWindow::historyTravels()

@@ -2,6 +2,7 @@
 
 #include "host/KeyText.h"
 #include "shell/FunctionDelegate.h"
+#include "shell/GivenText.h"
 #include "shell/KeyTitle.h"
 #include "shell/ShellStyle.h"
 #include "vocabulary/KeyCodes.h"
@@ -22,7 +23,8 @@ constexpr int KeyRole = Qt::UserRole;
 void setFunction(QTreeWidgetItem *item, int column, const QString &text, int kind)
 {
     item->setText(column, text);
-    item->setToolTip(column, QStringLiteral("%1 (%2)").arg(text, inputTypeText(kind)));
+    item->setToolTip(column,
+                     GivenText::forTip(QStringLiteral("%1 (%2)").arg(text, inputTypeText(kind))));
     item->setData(column, FunctionDelegate::KindRole, kind);
 }
 
@@ -51,6 +53,8 @@ ChangesPage::ChangesPage(ShellContext &context, QWidget *parent)
     setStyleSheet(ShellStyle::panelSheet());
     m_summary->setObjectName(QStringLiteral("m_changesLab"));
     m_summary->setWordWrap(true);
+    m_summary->setTextFormat(Qt::PlainText);
+    m_deviceLab->setTextFormat(Qt::PlainText);
     m_putBack->setObjectName(QStringLiteral("m_putBackBtn"));
     m_putBackAll->setObjectName(QStringLiteral("m_putBackAllBtn"));
     m_apply->setObjectName(QStringLiteral("m_applyChangesBtn"));

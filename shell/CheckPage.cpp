@@ -2,6 +2,7 @@
 
 #include "host/StoreState.h"
 #include "shell/FlowLayout.h"
+#include "shell/GivenText.h"
 #include "shell/KeyTitle.h"
 #include "shell/ShellStyle.h"
 
@@ -144,6 +145,7 @@ QLabel *CheckPage::makeHeading(int profile, QWidget *parent) const
 {
     auto *const heading =
         new QLabel(m_context.store().state().profileName(m_context.owner(), profile), parent);
+    heading->setTextFormat(Qt::PlainText);
     heading->setStyleSheet(ShellStyle::headingSheet());
     return heading;
 }
@@ -176,7 +178,7 @@ QPushButton *CheckPage::makeChip(const CheckFinding &finding, const KeyPlace &pl
         text = name;
     else if (place.profile != finding.profile)
         text = QStringLiteral("%1 \u00B7 %2").arg(name, text);
-    auto *const chip = new QPushButton(text, parent);
+    auto *const chip = new QPushButton(GivenText::forButton(text), parent);
     chip->setToolTip(tr("Go there"));
     connect(chip, &QPushButton::clicked, this,
             [this, place] { emit m_context.goTo(place.profile, place.keyIdx); });

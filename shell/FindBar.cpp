@@ -74,6 +74,7 @@ void FindBar::makeResults()
     m_count->setWordWrap(true);
     m_count->setStyleSheet(QStringLiteral("color:%1;").arg(ShellStyle::dim().name()));
     m_profile = new QLabel(m_results);
+    m_profile->setTextFormat(Qt::PlainText);
     m_profile->setObjectName(QStringLiteral("m_findProfile"));
     m_profile->setStyleSheet(ShellStyle::headingSheet());
     m_profile->setAlignment(Qt::AlignCenter);

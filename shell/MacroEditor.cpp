@@ -76,6 +76,7 @@ QPushButton *MacroEditor::button(QWidget *parent, const char *name, const QStrin
 void MacroEditor::makeHead(QVBoxLayout *layout)
 {
     m_title = new QLabel(this);
+    m_title->setTextFormat(Qt::PlainText);
     m_title->setObjectName(QStringLiteral("m_title"));
     m_title->setStyleSheet(ShellStyle::headingSheet());
     layout->addWidget(m_title);
@@ -92,6 +93,7 @@ void MacroEditor::makeHead(QVBoxLayout *layout)
     m_recordPad->hide();
     layout->addWidget(m_recordPad);
     m_message = new QLabel(this);
+    m_message->setTextFormat(Qt::PlainText);
     m_message->setObjectName(QStringLiteral("m_message"));
     m_message->setWordWrap(true);
     m_message->setStyleSheet(QStringLiteral("color:%1;").arg(ShellStyle::warning().name()));
@@ -202,7 +204,10 @@ void MacroEditor::showMacro(const QString &name)
     }
     m_macro = name;
     const auto macro = m_context.store().state().macro(m_context.owner(), name);
-    m_model->setEvents(MacroEventModel::eventsOf(macro.value_or(vantrix_macro_record())));
+    const auto events = MacroEventModel::eventsOf(macro.value_or(vantrix_macro_record()));
+    if (events != m_model->events())
+        say({}); // it was about the events that were shown
+    m_model->setEvents(events);
     showState();
 }
 

@@ -10,6 +10,7 @@
 #include "shell/ShellStyle.h"
 
 #include "interfaces/Modal.h"
+#include "shell/GivenText.h"
 
 #include <QAction>
 #include <QApplication>
@@ -301,7 +302,13 @@ void MainWindow::sayWhatIsPending()
 void MainWindow::say(const QString &text)
 {
     m_status->setText(text);
-    m_stepOfStatus = m_context.store().undoName();
+    m_stepOfStatus = lastStep();
+}
+
+/// Tells the last step from all others.
+std::pair<int, QString> MainWindow::lastStep() const
+{
+    return {m_context.store().stepPosition(), m_context.store().undoName()};
 }
 
 void MainWindow::sayWhoHasTheKeyboard()
@@ -399,16 +406,18 @@ void MainWindow::updateSteps()
     const ProfileStore &store = m_context.store();
     m_undo->setEnabled(store.canUndo());
     m_redo->setEnabled(store.canRedo());
-    m_undo->setText(store.canUndo() ? tr("&Undo %1").arg(store.undoName()) : tr("&Undo"));
-    m_redo->setText(store.canRedo() ? tr("&Redo %1").arg(store.redoName()) : tr("&Redo"));
+    m_undo->setText(store.canUndo() ? tr("&Undo %1").arg(GivenText::forButton(store.undoName()))
+                                    : tr("&Undo"));
+    m_redo->setText(store.canRedo() ? tr("&Redo %1").arg(GivenText::forButton(store.redoName()))
+                                    : tr("&Redo"));
     m_undo->setIconText(QStringLiteral("↶"));
     m_redo->setIconText(QStringLiteral("↷"));
-    m_undo->setToolTip(tr("Undo %1 (Ctrl+Z)").arg(store.undoName()));
+    m_undo->setToolTip(GivenText::forTip(tr("Undo %1 (Ctrl+Z)").arg(store.undoName())));
     // What was said before another step does not hold any more.
     const bool isHint = !m_captureHint.isEmpty() && m_status->text() == m_captureHint;
-    if (store.canUndo() && store.undoName() != m_stepOfStatus && !isHint)
+    if (store.canUndo() && lastStep() != m_stepOfStatus && !isHint)
         say(store.undoName());
-    m_redo->setToolTip(tr("Redo %1 (Ctrl+Shift+Z)").arg(store.redoName()));
+    m_redo->setToolTip(GivenText::forTip(tr("Redo %1 (Ctrl+Shift+Z)").arg(store.redoName())));
 }
 
 // ---- state ----
@@ -436,8 +445,8 @@ void MainWindow::updateState()
                             : count == 1 ? tr("1 key to apply")
                                          : tr("%1 keys to apply").arg(count);
     m_applied->setText(tr("Device: %1   |   %2   |").arg(narrowed(device), pending));
-    m_applied->setToolTip(device);
-    m_shown->setToolTip(name);
+    m_applied->setToolTip(GivenText::forTip(device));
+    m_shown->setToolTip(GivenText::forTip(name));
     showName();
     m_saved->setText(store.isReadOnly() ? tr("READ ONLY")
                      : store.isSaved()  ? tr("Saved")
@@ -490,7 +499,9 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::showName()
 {
     const int room = m_shown->contentsRect().width();
-    m_shown->setText(fontMetrics().elidedText(m_shown->toolTip(), Qt::ElideRight, room));
+    const QString name =
+        m_context.store().state().profileName(m_context.owner(), m_context.profile());
+    m_shown->setText(fontMetrics().elidedText(name, Qt::ElideRight, room));
 }
 
 bool MainWindow::eventFilter(QObject *watched, QEvent *event)

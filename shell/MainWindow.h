@@ -57,6 +57,7 @@ private:
     void connectContext();
     void restore();
     void say(const QString &text);
+    std::pair<int, QString> lastStep() const;
     void sayWhatIsPending();
     void sayWhoHasTheKeyboard();
     void arrange();
@@ -83,7 +84,7 @@ private:
     QLabel *m_status = nullptr;
     QLabel *m_applied = nullptr;
     QLabel *m_saved = nullptr;
-    QString m_stepOfStatus; ///< last step when the status was said
+    std::pair<int, QString> m_stepOfStatus; ///< last step when the status was said
     QString m_captureHint;
     ShellPage m_page = ShellPage::Mapping;
 };

@@ -2,6 +2,7 @@
 
 #include "host/KeyText.h"
 #include "host/StoreState.h"
+#include "shell/GivenText.h"
 #include "shell/KeyTitle.h"
 #include "shell/ShellStyle.h"
 #include "vocabulary/AppTables.h"
@@ -250,7 +251,8 @@ bool PadView::event(QEvent *event)
         if (keyIdx == NoKey)
             QToolTip::hideText();
         else
-            QToolTip::showText(help->globalPos(), m_keys[std::size_t(keyIdx)].description, this);
+            QToolTip::showText(help->globalPos(),
+                               GivenText::forTip(m_keys[std::size_t(keyIdx)].description), this);
         return true;
     }
     return QWidget::event(event);

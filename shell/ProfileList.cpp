@@ -1,5 +1,6 @@
 #include "shell/ProfileList.h"
 
+#include "shell/GivenText.h"
 #include "shell/ProfileDelegate.h"
 #include "shell/ShellStyle.h"
 
@@ -183,8 +184,9 @@ void ProfileList::refreshRow(QListWidgetItem *item)
         words << tr("the device acts by it");
     if (isDirty)
         words << tr("differs from what the device has");
-    item->setToolTip(words.join(QStringLiteral(", ")));
-    item->setData(Qt::AccessibleTextRole, item->toolTip());
+    const QString state = words.join(QStringLiteral(", "));
+    item->setToolTip(GivenText::forTip(state));
+    item->setData(Qt::AccessibleTextRole, state);
 }
 
 void ProfileList::refreshProfile(int owner, int profile)
@@ -273,8 +275,8 @@ void ProfileList::fillTargets(QMenu *menu)
                            .arg(state.profileName(m_context.owner(), profile));
         if (isUnused(profile))
             text = tr("%1  (unused)").arg(text);
-        QAction *const action =
-            menu->addAction(text, this, [this, profile] { duplicateTo(profile); });
+        QAction *const action = menu->addAction(GivenText::forButton(text), this,
+                                                [this, profile] { duplicateTo(profile); });
         action->setEnabled(profile != m_context.profile());
     }
 }

@@ -47,6 +47,8 @@ private slots:
     void addEvents();
     void addAfterTheChosenEvent();
     void addPastTheLimit();
+    void refusalsLeaveWithTheEvents();
+    void namesAreShownLetterByLetter();
     void addWhatIsNoKey();
     void deleteEvents();
     void moveEvents();
@@ -410,6 +412,31 @@ void tst_MacroPage::addPastTheLimit()
     click("m_addEventBtn");
     QCOMPARE(int(events("Save").size()), 127);
     QCOMPARE(message(), QStringLiteral("A macro holds at most 127 events."));
+}
+
+void tst_MacroPage::refusalsLeaveWithTheEvents()
+{
+    add("Save", Events(127, {4, 1, 0}));
+    click("m_addEventBtn");
+    QCOMPARE(message(), QStringLiteral("A macro holds at most 127 events."));
+    store().undo();
+    store().flush();
+    QCOMPARE(message(), QString());
+}
+
+void tst_MacroPage::namesAreShownLetterByLetter()
+{
+    add("R&D <b>", Four);
+    auto *const title = child<QLabel>("m_title");
+    QCOMPARE(title->text(), QStringLiteral("R&D <b>: 4 of 127 events"));
+    QCOMPARE(title->textFormat(), Qt::PlainText);
+    QCOMPARE(child<QLabel>("m_message")->textFormat(), Qt::PlainText);
+    store().setProfileName(0, 0, QStringLiteral("P&Q"));
+    store().setNamedMacroKey(0, 0, "R&D <b>", 7);
+    store().flush();
+    auto *const chip = child<QWidget>("m_uses")->findChild<QPushButton *>();
+    QVERIFY(chip);
+    QVERIFY2(chip->text().startsWith(QLatin1String("P&&Q ")), qPrintable(chip->text()));
 }
 
 void tst_MacroPage::addWhatIsNoKey()

@@ -244,6 +244,11 @@ void tst_MainWindow::statusKeepsUpWithSteps()
     QCOMPARE(said(), QStringLiteral("Assign B to key 8"));
     m_window->undo();
     QCOMPARE(said(), QStringLiteral("Undone: Assign B to key 8"));
+    m_window->redo();
+    click("m_apply");
+    m_shell->store().flush();
+    QVERIFY2(said().startsWith(QLatin1String("PROFILE 1 is on the device.")), qPrintable(said()));
+    m_window->undo();
     assign(9, "btn_48");
     QCOMPARE(said(), QStringLiteral("Assign B to key 9"));
 }

@@ -3,6 +3,7 @@
 #include "host/KeyText.h"
 #include "shell/DepthSlider.h"
 #include "shell/KeyTitle.h"
+#include "shell/MainWindow.h"
 #include "shell/PadView.h"
 #include "shell/ShellStyle.h"
 
@@ -36,6 +37,7 @@ DeviceView::DeviceView(ShellContext &context, QWidget *parent) : QWidget(parent)
     connect(&store, &ProfileStore::profileChanged, this, &DeviceView::onChanged);
     connect(&store, &ProfileStore::macrosChanged, this, &DeviceView::onChanged);
     connect(&store, &ProfileStore::pressoChanged, this, &DeviceView::onChanged);
+    connect(&context, &ShellContext::profileShown, this, &DeviceView::onChanged);
     connect(&store, &ProfileStore::viewChanged, this, &DeviceView::followSelection);
     // after the environment has taken over another language
     connect(&store, &ProfileStore::settingChanged, this, &DeviceView::onChanged,
@@ -61,6 +63,7 @@ QWidget *DeviceView::makePad()
     head->addWidget(m_profile, 1);
     layout->addLayout(head);
     m_pending = new QLabel(box);
+    m_pending->setTextFormat(Qt::PlainText);
     m_pending->setObjectName(QStringLiteral("m_pending"));
     m_pending->setWordWrap(true);
     layout->addWidget(m_pending);
@@ -83,6 +86,7 @@ QWidget *DeviceView::makePad()
     row->addLayout(travel);
     layout->addLayout(row, 1);
     m_keyText = new QLabel(box);
+    m_keyText->setTextFormat(Qt::PlainText);
     m_keyText->setObjectName(QStringLiteral("m_keyText"));
     m_keyText->setWordWrap(true);
     layout->addWidget(m_keyText);
@@ -178,6 +182,9 @@ void DeviceView::refresh()
     const auto pending = int(device.pending(owner, profile).size());
     if (pending == 0)
         m_pending->setText(tr("It has what the profile holds."));
+    else if (profile != m_context.profile()) // APPLY would send another one
+        m_pending->setText(
+            MainWindow::tr("Not on the device yet: %1.").arg(m_profile->currentText()));
     else if (pending == 1)
         m_pending->setText(tr("One key differs from the profile; APPLY sends it."));
     else

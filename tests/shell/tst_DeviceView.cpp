@@ -120,6 +120,10 @@ void tst_DeviceView::saysWhatIsPending()
     QCOMPARE(pending->text(), QStringLiteral("One key differs from the profile; APPLY sends it."));
     m_shell->assign(8, 5);
     QCOMPARE(pending->text(), QStringLiteral("2 keys differ from the profile; APPLY sends them."));
+    m_shell->context.setProfile(3);
+    QCOMPARE(pending->text(), QStringLiteral("Not on the device yet: PROFILE 1."));
+    m_shell->context.setProfile(0);
+    QCOMPARE(pending->text(), QStringLiteral("2 keys differ from the profile; APPLY sends them."));
     m_shell->apply();
     QCOMPARE(pending->text(), QStringLiteral("It has what the profile holds."));
 }

@@ -20,7 +20,7 @@ class ApplicationAdvUi;
 /// with a button for each hot key. It reads the catalog once, in the background, from its creation
 /// on, and grows in portions, so that it can be used meanwhile; nothing ever leaves it. A folder
 /// whose name is not all in upper case stays empty. Beyond 100,000 hot keys or 12,000 titles the
-/// catalog is cut off.
+/// catalog is cut off, and a group beyond 10,000 hot keys is.
 ///
 /// At most one hot key of the whole tree is checked, and it stays checked until another one is
 /// picked: the page does not show which hot key a key holds. Safe to destroy at any moment.

@@ -11,6 +11,8 @@ struct HotKeyTree
     /// A catalog beyond these is cut off: the page would no longer find room in memory.
     static constexpr int MostKeys = 100'000;
     static constexpr int MostTitles = 12'000;
+    /// A group beyond this is cut off: to unfold it would stop the page for a while.
+    static constexpr int MostKeysOfAGroup = 10'000;
 
     ButtonGroupEx *group = nullptr; ///< not owned
     Portions portions;

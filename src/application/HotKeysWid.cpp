@@ -46,7 +46,7 @@ HotKeysWid::~HotKeysWid() = default;
 void HotKeysWid::addKeys(std::map<QString, QString> &mKeys, int most)
 {
     for (; most > 0 && !mKeys.empty(); --most) {
-        if (!m_tree.addKey())
+        if (int(m_lsKeys.size()) >= HotKeyTree::MostKeysOfAGroup || !m_tree.addKey())
             return mKeys.clear();
         const auto entry = mKeys.begin();
         auto *const key = new HotKey(entry->first, entry->second, m_ui->scrollAreaWidgetContents);

@@ -136,6 +136,7 @@ private slots:
     void areaGrowsWithItsContent();
     void portions();
     void mostKeys();
+    void mostKeysOfAGroup();
     void destroyedAtAnyTime_data();
     void destroyedAtAnyTime();
 
@@ -746,6 +747,24 @@ void tst_ApplicationAdvWid::mostKeys()
     tree.titles = 12'000 - 1;
     QVERIFY(tree.addTitle());
     QVERIFY(!tree.addTitle());
+}
+
+void tst_ApplicationAdvWid::mostKeysOfAGroup()
+{
+    ButtonGroupEx group;
+    HotKeyTree tree;
+    tree.group = &group;
+    HotKeysWid wid(tree, QStringLiteral("GROUP"), nullptr);
+    auto map = numbered(10'003);
+    while (!map.empty())
+        wid.addKeys(map, 1000);
+    QCOMPARE(wid.findChildren<HotKey *>().size(), 10'000);
+    QCOMPARE(tree.keys, 10'000);
+    // The next group has room of its own.
+    HotKeysWid next(tree, QStringLiteral("NEXT"), nullptr);
+    map = numbered(2);
+    next.addKeys(map, 100);
+    QCOMPARE(next.findChildren<HotKey *>().size(), 2);
 }
 
 void tst_ApplicationAdvWid::destroyedAtAnyTime_data()

@@ -127,7 +127,8 @@ void tst_AssignMenuDialog::passesOnAMacro()
 {
     QSignalSpy assigned(m_menu.get(), &AssignMenuWid::sigMacroAssigned);
     QSignalSpy record(m_menu.get(), &AssignMenuWid::sigVantrixKeyAssigned);
-    select(11, plainKey(5));
+    m_menu->slotKeySelectionChanged(11);
+    m_menu->slotDualActionSelected(dualKey(5, 6));
     applyAfter("m_reassignKey", [](QObject *opened) {
         emit child<MacroAdvWid>(opened, "m_macro")->sigMacroAssigned(true, "M3", "Jump", 2);
     });
@@ -135,6 +136,7 @@ void tst_AssignMenuDialog::passesOnAMacro()
     QCOMPARE(assigned.at(0), (QVariantList{true, "M3", "Jump", 2}));
     QCOMPARE(label("m_keyLab")->styleSheet(), frameOf("#ffd50681"));
     QCOMPARE(label("m_assignLab")->text(), QString("M3"));
+    QVERIFY(label("m_dualActionLab")->isHidden());
 
     applyAfter("m_reassignKey", [](QObject *opened) {
         emit child<MacroAdvWid>(opened, "m_macro")->sigMacroAssigned(false, "M3", "Jump", 2);
@@ -150,7 +152,8 @@ void tst_AssignMenuDialog::passesOnAHotKey()
 {
     QSignalSpy assigned(m_menu.get(), &AssignMenuWid::sigApplicationAdvAssigned);
     QSignalSpy record(m_menu.get(), &AssignMenuWid::sigVantrixKeyAssigned);
-    select(11, plainKey(5));
+    m_menu->slotKeySelectionChanged(11);
+    m_menu->slotDualActionSelected(dualKey(5, 6));
     applyAfter("m_reassignKey", [](QObject *opened) {
         emit child<ApplicationAdvWid>(opened, "m_application")
             ->sigAppHotKeyChanged("CTRL+S", "Save");
@@ -159,6 +162,7 @@ void tst_AssignMenuDialog::passesOnAHotKey()
     QCOMPARE(assigned.at(0), (QVariantList{"CTRL+S", "Save"}));
     QCOMPARE(label("m_keyLab")->styleSheet(), frameOf("#ffffff00"));
     QCOMPARE(label("m_assignLab")->text(), QString("Save"));
+    QVERIFY(label("m_dualActionLab")->isHidden());
 
     applyAfter("m_reassignKey", [](QObject *opened) {
         emit child<ApplicationAdvWid>(opened, "m_application")->sigAppHotKeyChanged("", "");
@@ -265,6 +269,9 @@ void tst_AssignMenuDialog::anAbandonedMacroIsNotChecked()
     applyAfter("m_controllerMode", onlyChecked("Jump"));
     select(1, labelled);
     m_menu->slotApplicationAdvSelected("Copy");
+    applyAfter("m_reassignKey", onlyChecked("none"));
+    m_menu->slotMacroSelected("M1");
+    m_menu->slotApplicationSelected(0, 3);
     applyAfter("m_reassignKey", onlyChecked("none"));
 }
 

@@ -356,6 +356,17 @@ void tst_AssignMenuWid::takesTheSizeItIsGiven()
         QVERIFY2(command->fontMetrics().horizontalAdvance(command->text()) <= command->width(),
                  name);
     }
+    const QLabel *const key = label("m_keyLab");
+    const auto fits = [key] {
+        return key->fontMetrics().horizontalAdvance(key->text()) <= key->width() - 2;
+    };
+    QVERIFY(fits());
+    m_menu->slotKeySelectionChanged(27);
+    QVERIFY(fits());
+    m_menu->slotKeySelectionChanged(0);
+    m_menu->resize(place.width() - 20, place.height());
+    QCoreApplication::processEvents();
+    QVERIFY(fits());
 }
 
 void tst_AssignMenuWid::elidesToItsWidth()

@@ -31,6 +31,11 @@ private slots:
     void leavingSendsNothing();
     void newMacroClosesAndDropsThePick();
     void searchReachesThePages();
+    void searchReachesEveryPage_data();
+    void searchReachesEveryPage();
+    void searchReachesTheController();
+    void everyPageShowsItsKeys_data();
+    void everyPageShowsItsKeys();
     void aProfileEmptiesTheMacros();
     void forwardsMacros();
     void abandonedMacroIsNotChecked();
@@ -153,6 +158,13 @@ void tst_ReassignDlg::openingTellsThePages()
     QCOMPARE(selected.at(0).at(0).value<vantrix_key_mapping>(), plainKey(9));
     QCOMPARE(keyboard.count(), 1);
     QCOMPARE(application.count(), 1);
+    const auto *const second = button("m_action2");
+    QVERIFY(!second->isEnabled());
+    open(0, 6, dualKey(4, 5), [&] {
+        QVERIFY(second->isEnabled());
+        pick("mouse");
+        QVERIFY(!second->isEnabled());
+    });
 }
 
 void tst_ReassignDlg::lastPickWins_data()
@@ -343,6 +355,110 @@ void tst_ReassignDlg::searchReachesThePages()
         if (key->objectName() != "m_title")
             QCOMPARE(key->isHidden(), !key->text().startsWith("RI"));
     }
+}
+
+void tst_ReassignDlg::searchReachesEveryPage_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("hidden");
+    QTest::newRow("keyboard") << "m_keyboard"
+                              << "b"
+                              << "A";
+    QTest::newRow("mouse") << "m_mouse"
+                           << "ri"
+                           << "LEFT CLICK";
+    QTest::newRow("media") << "m_media"
+                           << "vol"
+                           << "STOP";
+    QTest::newRow("macro") << "m_macro"
+                           << "co"
+                           << "CLOSE ACTIVE WINDOW";
+    QTest::newRow("presso") << "m_pressoFunc"
+                            << "x"
+                            << "CALIBRATE";
+    QTest::newRow("backlight") << "m_backlight"
+                               << "led"
+                               << "EFFECT CYCLE+";
+    QTest::newRow("profile") << "m_profile"
+                             << "profile 2"
+                             << "PROFILE 1";
+}
+
+void tst_ReassignDlg::searchReachesEveryPage()
+{
+    QFETCH(QString, page);
+    QFETCH(QString, text);
+    const auto keys = [this, page] {
+        QFETCH(QString, hidden);
+        QVector<const QPushButton *> found;
+        for (const QPushButton *key :
+             child<QWidget>(m_dialog.get(), page)->findChildren<QPushButton *>()) {
+            if (key->text() == hidden)
+                found << key;
+        }
+        return found;
+    };
+    QVERIFY(!keys().isEmpty());
+    child<QLineEdit>(m_dialog.get(), "m_search")->setText(text);
+    for (const QPushButton *key : keys())
+        QVERIFY(key->isHidden());
+    child<QLineEdit>(m_dialog.get(), "m_search")->clear();
+    for (const QPushButton *key : keys())
+        QVERIFY(!key->isHidden());
+}
+
+void tst_ReassignDlg::searchReachesTheController()
+{
+    const auto bold = [this] {
+        int rows = 0;
+        for (const QLabel *name : child<QWidget>(m_dialog.get(), "m_gameController")
+                                      ->findChildren<QLabel *>("m_gamepad"))
+            rows += name->styleSheet().contains("bold") ? 1 : 0;
+        return rows;
+    };
+    child<QLineEdit>(m_dialog.get(), "m_search")->setText("r stick");
+    QCOMPARE(bold(), 5);
+    child<QLineEdit>(m_dialog.get(), "m_search")->clear();
+    QCOMPARE(bold(), 0);
+}
+
+/// A key's function is checked on its page and nowhere else, and a pick elsewhere takes it off.
+void tst_ReassignDlg::everyPageShowsItsKeys_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("keyboard") << "m_keyboard" << 4 << "A";
+    QTest::newRow("mouse") << "m_mouse" << 496 << "LEFT CLICK";
+    QTest::newRow("media") << "m_media" << 241 << "STOP";
+    QTest::newRow("presso") << "m_pressoFunc" << 312 << "CALIBRATE";
+    QTest::newRow("backlight") << "m_backlight" << 402 << "LED DARKER-";
+    QTest::newRow("profile") << "m_profile" << 1571 << "PROFILE CYCLE-";
+}
+
+void tst_ReassignDlg::everyPageShowsItsKeys()
+{
+    QFETCH(QString, page);
+    QFETCH(int, code);
+    QFETCH(QString, text);
+    const auto checked = [this] {
+        QStringList found;
+        for (const char *each : {"m_keyboard", "m_mouse", "m_media", "m_macro", "m_pressoFunc",
+                                 "m_backlight", "m_profile"}) {
+            for (const QPushButton *key :
+                 child<QWidget>(m_dialog.get(), each)->findChildren<QPushButton *>()) {
+                if (key->isChecked())
+                    found << each + QString(':') + key->text();
+            }
+        }
+        return found;
+    };
+    open(0, 0, plainKey(ushort(code)), [&] {
+        QCOMPARE(checked(), QStringList(page + ':' + text));
+        pick("hotkey");
+        QCOMPARE(checked(), QStringList());
+    });
 }
 
 void tst_ReassignDlg::aProfileEmptiesTheMacros()

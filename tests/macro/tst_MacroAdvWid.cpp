@@ -157,6 +157,9 @@ void tst_MacroAdvWid::texts()
     QCOMPARE(child<QGridLayout>(m_picker.get(), "m_winLayout")->horizontalSpacing(), 6);
     QCOMPARE(child<QGridLayout>(m_picker.get(), "m_winLayout")->verticalSpacing(), 2);
     QCOMPARE(child<QGridLayout>(m_picker.get(), "m_userLayout")->spacing(), 2);
+    for (const char *layout : {"m_userLayout", "m_winLayout"})
+        QCOMPARE(child<QGridLayout>(m_picker.get(), layout)->alignment(),
+                 Qt::AlignLeft | Qt::AlignTop);
 }
 
 void tst_MacroAdvWid::shortcuts()

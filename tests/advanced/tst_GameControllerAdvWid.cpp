@@ -29,6 +29,7 @@ private slots:
     void columns();
     void mapOfAllKeys();
     void mapIsReadAnew();
+    void currentKeyIsInTheLowBits();
     void unknownCodesShowNowhere();
     void failedRead();
     void otherScope();
@@ -145,6 +146,16 @@ void tst_GameControllerAdvWid::mapIsReadAnew()
     m_store->profile(1, 2).keys[9] = clearedKey();
     m_page->setProfile(1, 2);
     QCOMPARE(shown(), QStringLiteral("466:3,1,7"));
+}
+
+void tst_GameControllerAdvWid::currentKeyIsInTheLowBits()
+{
+    m_store->profile(1, 2).currentKey = 0x20000 + 3;
+    m_page->setProfile(1, 2);
+    QCOMPARE(shown(), QStringLiteral("466:3,1,7 462:9"));
+    m_store->profile(1, 2).currentKey = 0xFFFF;
+    m_page->setProfile(1, 2);
+    QCOMPARE(shown(), QStringLiteral("466:1,3,7 462:9"));
 }
 
 void tst_GameControllerAdvWid::unknownCodesShowNowhere()

@@ -17,6 +17,7 @@ private slots:
     void coversTheMainWindow_data();
     void coversTheMainWindow();
     void followsTheMainWindow();
+    void searchIsLegible();
     void centresItsPanel_data();
     void centresItsPanel();
     void paintsTheVeil();
@@ -126,6 +127,18 @@ void tst_ReassignDlgWindow::followsTheMainWindow()
         QCoreApplication::processEvents();
         QCOMPARE(m_dialog->geometry(), QRect(70, 80, 1100, 720));
     });
+    m_dialog->hide();
+    m_main->windowHandle()->setGeometry(10, 20, 900, 700);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_dialog->geometry(), QRect(70, 80, 1100, 720));
+}
+
+/// Dark on its light ground, whatever the application's palette.
+void tst_ReassignDlgWindow::searchIsLegible()
+{
+    const QPalette palette = child<QLineEdit>(m_dialog.get(), "m_search")->palette();
+    QCOMPARE(palette.color(QPalette::Text), QColor(Qt::black));
+    QVERIFY(palette.color(QPalette::PlaceholderText).lightness() < 80);
 }
 
 void tst_ReassignDlgWindow::centresItsPanel_data()

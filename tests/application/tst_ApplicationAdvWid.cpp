@@ -124,6 +124,7 @@ private slots:
     void manyKeysAtOnce();
     void elidedWithToolTip();
     void oddTexts();
+    void longTitles();
     void search_data();
     void search();
     void searchFoldedThenOpened();
@@ -137,6 +138,7 @@ private slots:
     void portions();
     void mostKeys();
     void mostKeysOfAGroup();
+    void mostTitles();
     void destroyedAtAnyTime_data();
     void destroyedAtAnyTime();
 
@@ -503,6 +505,20 @@ void tst_ApplicationAdvWid::oddTexts()
     QCOMPARE(spy.at(1).at(1).toString().size(), 100000);
 }
 
+void tst_ApplicationAdvWid::longTitles()
+{
+    m_catalog->addFile(QString(200, QLatin1Char('A')) + QStringLiteral("/B/C"),
+                       QByteArray(100000, 'e') + "\t\tX\n\t\t1\n");
+    makePage(1);
+    auto *const top = level<AppHotKeysWid>(m_page.get(), QString(200, QLatin1Char('A')));
+    titleOf(top)->click();
+    QCoreApplication::processEvents();
+    const QString shown = titles<HotKeysWid>(m_page.get()).value(0);
+    QCOMPARE(shown, QString(399, QLatin1Char('E')) + QChar(0x2026));
+    auto *const area = m_page->findChild<QScrollArea *>();
+    QVERIFY(area->widget()->width() <= area->viewport()->width());
+}
+
 void tst_ApplicationAdvWid::search_data()
 {
     QTest::addColumn<QString>("text");
@@ -765,6 +781,30 @@ void tst_ApplicationAdvWid::mostKeysOfAGroup()
     map = numbered(2);
     next.addKeys(map, 100);
     QCOMPARE(next.findChildren<HotKey *>().size(), 2);
+}
+
+void tst_ApplicationAdvWid::mostTitles()
+{
+    constexpr int most = 12'000;
+    ButtonGroupEx group;
+    HotKeyTree tree;
+    tree.group = &group;
+    tree.titles = most - 2;
+    AppHotKeysWid top(tree, QStringLiteral("TOP"), nullptr);
+    top.addSecondLevels({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
+    QTRY_COMPARE(titles<LevelWid>(&top), QStringList({QStringLiteral("A"), QStringLiteral("B")}));
+    const HotKeyMap file{{QStringLiteral("E"), numbered(1)}, {QStringLiteral("F"), numbered(1)}};
+    top.addHotKeys(QStringLiteral("A"), QStringLiteral("NONE"), file);
+    tree.portions.add([&tree] {
+        tree.titles = most - 2;
+        return true;
+    });
+    top.addHotKeys(QStringLiteral("A"), QStringLiteral("FILE"), file);
+    QTRY_COMPARE(titles<FuncLevWid>(&top), QStringList(QStringLiteral("FILE")));
+    QTest::qWait(5);
+    QCOMPARE(titles<FuncLevWid>(&top), QStringList(QStringLiteral("FILE")));
+    QCOMPARE(titles<HotKeysWid>(&top), QStringList(QStringLiteral("E")));
+    QCOMPARE(tree.titles, most);
 }
 
 void tst_ApplicationAdvWid::destroyedAtAnyTime_data()

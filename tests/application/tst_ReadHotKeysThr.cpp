@@ -185,6 +185,8 @@ private slots:
     void longLine();
     void walkInOrder();
     void foldersWithoutOrder();
+    void filesInOrder();
+    void stopsInTheMiddleOfAFile();
     void onlyItsDepths();
     void namesOfFiles();
     void noCatalog_data();
@@ -345,6 +347,35 @@ void tst_ReadHotKeysThr::foldersWithoutOrder()
         m_catalog->addFile(QStringLiteral("A/%1/F").arg(QChar(i % 2 ? 'a' + i : 'A' + i)), "");
     const QStringList log = Reading().all();
     QCOMPARE(log.at(1), QStringLiteral("A:A,b,C,d,E,f,G,h,I"));
+}
+
+/// Files are begun folder by folder, capitals first, and in a folder by name, ignoring case.
+void tst_ReadHotKeysThr::filesInOrder()
+{
+    for (const char *file : {"A/b/x", "A/C/d", "A/C/E", "A/C/c", "A/D/x"})
+        m_catalog->addFile(QLatin1String(file), "");
+    QThreadPool *const pool = QThreadPool::globalInstance();
+    const int threads = pool->maxThreadCount();
+    pool->setMaxThreadCount(1);
+    const QStringList log = Reading().all();
+    pool->setMaxThreadCount(threads);
+    QCOMPARE(log,
+             QStringList({QStringLiteral("A"), QStringLiteral("A:b,C,D"), QStringLiteral("A/C/C "),
+                          QStringLiteral("A/C/D "), QStringLiteral("A/C/E "),
+                          QStringLiteral("A/D/X "), QStringLiteral("A/B/X ")}));
+}
+
+void tst_ReadHotKeysThr::stopsInTheMiddleOfAFile()
+{
+    m_catalog->addFile(QStringLiteral("A/B/C"), CatalogFolder::rows(4000, 1));
+    int questions = 0;
+    const auto stopped = [&questions] {
+        return ++questions > 2;
+    };
+    HotKeyMap read;
+    QVERIFY(!HotKeyFile::read(m_catalog->root() + QStringLiteral("/A/B/C"), read, stopped));
+    QVERIFY2(!read.empty() && read.size() < 1000, qPrintable(QString::number(read.size())));
+    QVERIFY2(questions < 10, qPrintable(QString::number(questions)));
 }
 
 void tst_ReadHotKeysThr::onlyItsDepths()

@@ -19,6 +19,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QScreen>
@@ -356,10 +357,10 @@ void MainWindow::arrange()
 void MainWindow::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
-    const bool hadNames = event->oldSize().width() >= RoomForNames;
-    const bool hasNames = width() >= RoomForNames;
-    if (hadNames != hasNames)
-        m_names->setChecked(hasNames);
+    const bool hasRoom = width() >= RoomForNames;
+    if (m_hasRoomForNames != hasRoom)
+        m_names->setChecked(hasRoom);
+    m_hasRoomForNames = hasRoom;
     arrange();
 }
 
@@ -492,6 +493,14 @@ void MainWindow::remember()
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     remember();
+    const ProfileStore &store = m_context.store();
+    if (!store.isSaved() && !store.isReadOnly() &&
+        Modal::question(this, windowTitle(),
+                        tr("The changes cannot be saved and are lost with the window. "
+                           "Close it?")) != QMessageBox::Yes) {
+        event->ignore();
+        return;
+    }
     QMainWindow::closeEvent(event);
 }
 

@@ -87,4 +87,5 @@ private:
     std::pair<int, QString> m_stepOfStatus; ///< last step when the status was said
     QString m_captureHint;
     ShellPage m_page = ShellPage::Mapping;
+    bool m_hasRoomForNames = true;
 };

@@ -851,6 +851,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>接下来按下的键将分配给 %1。未选中按键时按 Ctrl+K 可关闭此功能。</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>更改无法保存，关闭窗口后将会丢失。要关闭吗？</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

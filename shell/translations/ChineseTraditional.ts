@@ -851,6 +851,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>接下來按下的鍵將指定給 %1。未選取按鍵時按 Ctrl+K 可關閉此功能。</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>變更無法儲存，關閉視窗後將會遺失。要關閉嗎？</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

@@ -851,6 +851,10 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>%1 prend la prochaine touche pressée. Ctrl+K, sans touche sélectionnée, désactive cela.</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>Les modifications ne peuvent pas être enregistrées et seront perdues avec la fenêtre. La fermer ?</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

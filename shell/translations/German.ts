@@ -851,6 +851,10 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>%1 nimmt die nächste Taste, die Sie drücken. Strg+K ohne gewählte Taste schaltet das aus.</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>Die Änderungen können nicht gespeichert werden und gehen mit dem Fenster verloren. Schließen?</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

@@ -851,6 +851,10 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>%1 prende il prossimo tasto premuto. Ctrl+K, senza tasto selezionato, lo disattiva.</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>Le modifiche non possono essere salvate e vanno perse con la finestra. Chiuderla?</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

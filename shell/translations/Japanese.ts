@@ -851,6 +851,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>次に押すキーが %1 に割り当てられます。キーを選んでいないときに Ctrl+K を押すとオフになります。</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>変更を保存できません。ウィンドウを閉じると失われます。閉じますか？</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

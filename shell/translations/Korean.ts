@@ -851,6 +851,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>다음에 누르는 키가 %1에 지정됩니다. 키를 선택하지 않고 Ctrl+K를 누르면 꺼집니다.</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>변경 내용을 저장할 수 없으며 창을 닫으면 사라집니다. 닫을까요?</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

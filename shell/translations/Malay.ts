@@ -851,6 +851,10 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>Kekunci seterusnya yang anda tekan akan ditetapkan pada %1. Ctrl+K, tanpa kekunci dipilih, mematikannya.</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>Perubahan tidak dapat disimpan dan akan hilang bersama tetingkap. Tutup?</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

@@ -851,6 +851,10 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>%1 recebe a próxima tecla que premir. Ctrl+K, sem tecla selecionada, desliga isso.</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>As alterações não podem ser guardadas e perdem-se com a janela. Fechar?</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

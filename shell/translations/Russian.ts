@@ -851,6 +851,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>%1 получит следующую нажатую клавишу. Ctrl+K без выбранной клавиши выключает это.</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>Изменения нельзя сохранить, и они пропадут вместе с окном. Закрыть его?</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

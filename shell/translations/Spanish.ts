@@ -851,6 +851,10 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>%1 toma la siguiente tecla que pulse. Ctrl+K, sin tecla seleccionada, lo desactiva.</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>Los cambios no se pueden guardar y se pierden con la ventana. ¿Cerrarla?</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

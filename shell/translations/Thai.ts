@@ -851,6 +851,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>ปุ่มถัดไปที่กดจะถูกกำหนดให้ %1 กด Ctrl+K ขณะไม่ได้เลือกปุ่มเพื่อปิด</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>บันทึกการเปลี่ยนแปลงไม่ได้ และจะหายไปเมื่อปิดหน้าต่าง ต้องการปิดหรือไม่</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

@@ -851,6 +851,10 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>Basacağınız ilk tuş %1 tuşuna atanır. Hiçbir tuş seçili değilken Ctrl+K bunu kapatır.</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>Değişiklikler kaydedilemiyor ve pencereyle birlikte kaybolacak. Kapatılsın mı?</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

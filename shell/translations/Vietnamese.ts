@@ -851,6 +851,10 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
         <source>%1 takes the next key you press. Ctrl+K, with no key selected, switches that off.</source>
         <translation>Phím bạn nhấn tiếp theo sẽ được gán cho %1. Nhấn Ctrl+K khi không chọn phím nào để tắt.</translation>
     </message>
+    <message>
+        <source>The changes cannot be saved and are lost with the window. Close it?</source>
+        <translation>Không thể lưu các thay đổi, chúng sẽ mất khi đóng cửa sổ. Đóng?</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>

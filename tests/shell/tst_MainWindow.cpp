@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPushButton>
 
 #include <cstring>
@@ -62,6 +63,8 @@ private slots:
     void anyBytesAreShown();
     void secondShell();
     void fullDisk();
+    void closingWithWhatCannotBeSaved();
+    void opensNarrow();
     void titleAndCounts();
 
 private:
@@ -622,6 +625,40 @@ void tst_MainWindow::fullDisk()
     m_shell->store().setPageLimit(0);
     QVERIFY(m_shell->store().flush());
     QCOMPARE(saved->text(), QStringLiteral("Saved"));
+}
+
+void tst_MainWindow::closingWithWhatCannotBeSaved()
+{
+    QStringList asked;
+    int answer = QMessageBox::No;
+    Modal::setAnswerer([&](const ModalPrompt &prompt) {
+        asked << prompt.text;
+        return QVariant(answer);
+    });
+    m_shell->store().setPageLimit(m_shell->store().pageCount());
+    for (int index = 0; index < 28 && m_shell->store().isSaved(); ++index) {
+        m_shell->store().addMacro(0, QStringLiteral("M%1").arg(index), {});
+        m_shell->store().flush();
+    }
+    QVERIFY(!m_window->close());
+    QVERIFY(m_window->isVisible());
+    QCOMPARE(asked, QStringList(QStringLiteral("The changes cannot be saved and are lost with "
+                                               "the window. Close it?")));
+    answer = QMessageBox::Yes;
+    QVERIFY(m_window->close());
+    QCOMPARE(asked.size(), 2);
+    m_window->show();
+    m_shell->store().setPageLimit(0);
+    QVERIFY(m_window->close());
+    QCOMPARE(asked.size(), 2);
+}
+
+void tst_MainWindow::opensNarrow()
+{
+    m_window.reset();
+    open(1024, 700);
+    auto *const profiles = child<ProfileList>(m_window.get(), "m_profileList");
+    QVERIFY(profiles->isCompact());
 }
 
 /// A store may hold anything: every key with any bytes is shown, selected and listed.

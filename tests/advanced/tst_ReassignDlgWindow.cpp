@@ -136,7 +136,14 @@ void tst_ReassignDlgWindow::followsTheMainWindow()
 /// Dark on its light ground, whatever the application's palette.
 void tst_ReassignDlgWindow::searchIsLegible()
 {
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::PlaceholderText, Qt::white);
+    QApplication::setPalette(dark);
+    m_dialog = std::make_unique<ReassignDlg>(m_main.get());
     const QPalette palette = child<QLineEdit>(m_dialog.get(), "m_search")->palette();
+    QApplication::setPalette(before);
     QCOMPARE(palette.color(QPalette::Text), QColor(Qt::black));
     QVERIFY(palette.color(QPalette::PlaceholderText).lightness() < 80);
 }

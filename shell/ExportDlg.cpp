@@ -25,6 +25,8 @@ ExportDlg::ExportDlg(ShellContext &context, QWidget *parent)
     m_list->setObjectName(QStringLiteral("m_exportList"));
     m_list->setAccessibleName(tr("Profiles to export"));
     m_list->setSpacing(2);
+    m_macros->setTextFormat(Qt::PlainText);
+    m_message->setTextFormat(Qt::PlainText);
     m_macros->setObjectName(QStringLiteral("m_exportMacros"));
     m_macros->setWordWrap(true);
     m_macros->setStyleSheet(QStringLiteral("color:%1;").arg(ShellStyle::dim().name()));

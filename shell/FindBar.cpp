@@ -143,12 +143,13 @@ void FindBar::showHits()
     if (shown < int(m_hits.size()))
         text += QLatin1Char(' ') + tr("The first %1 are listed.").arg(shown);
     m_count->setText(text);
+    m_list->setHidden(m_hits.empty());
+    if (m_hits.empty())
+        showProfileOf(-1);
     placeResults();
     m_results->show();
     m_results->raise();
     m_list->setCurrentRow(0);
-    if (m_hits.empty())
-        showProfileOf(-1);
 }
 
 void FindBar::placeResults()
@@ -156,7 +157,9 @@ void FindBar::placeResults()
     if (!m_results)
         return;
     const QRect room = window()->rect().adjusted(8, 8, -8, -8);
-    QRect place(mapTo(window(), QPoint(0, height() + 2)), ResultsSize);
+    // nothing found takes one line
+    const int tall = m_hits.empty() ? m_results->sizeHint().height() : ResultsSize.height();
+    QRect place(mapTo(window(), QPoint(0, height() + 2)), QSize(ResultsSize.width(), tall));
     place.setSize(place.size().boundedTo(QSize(room.width(), room.bottom() - place.top())));
     place.moveLeft(std::max(room.left(), std::min(place.left(), room.right() - place.width())));
     m_results->setGeometry(place);

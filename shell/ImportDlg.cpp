@@ -56,6 +56,7 @@ ImportDlg::ImportDlg(ShellContext &context, QWidget *parent)
     m_message->setObjectName(QStringLiteral("m_importMessage"));
     m_message->setWordWrap(true);
     m_message->setTextFormat(Qt::PlainText);
+    m_macros->setTextFormat(Qt::PlainText);
     m_message->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_message->hide();
     m_importBtn->setObjectName(QStringLiteral("m_importBtn"));

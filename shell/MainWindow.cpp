@@ -19,7 +19,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QScreen>
@@ -494,10 +493,10 @@ void MainWindow::closeEvent(QCloseEvent *event)
 {
     remember();
     const ProfileStore &store = m_context.store();
-    if (!store.isSaved() && !store.isReadOnly() &&
-        Modal::question(this, windowTitle(),
-                        tr("The changes cannot be saved and are lost with the window. "
-                           "Close it?")) != QMessageBox::Yes) {
+    const bool isLosing = !store.isSaved() && !store.isReadOnly();
+    if (isLosing && !Modal::question(this, windowTitle(),
+                                     tr("The changes cannot be saved and are lost with the "
+                                        "window. Close it?"))) {
         event->ignore();
         return;
     }

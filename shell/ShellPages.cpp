@@ -39,17 +39,17 @@ QWidget *ShellPages::makeFindBar(ShellContext &context, QWidget *parent)
 
 void ShellPages::addFileActions(QMenu *menu, ShellContext &context, QWidget *window)
 {
-    const auto add = [&](const char *name, const char *text, auto open) {
-        QAction *const action =
-            menu->addAction(QCoreApplication::translate("ShellPages", text), window, open);
+    const auto add = [&](const char *name, const char *text, Qt::Key shortcut, auto open) {
+        QAction *const action = menu->addAction(QCoreApplication::translate("ShellPages", text),
+                                                window, open, QKeySequence(Qt::CTRL + shortcut));
         action->setObjectName(QLatin1String(name));
     };
-    add("m_importAction", QT_TRANSLATE_NOOP("ShellPages", "Import profiles..."),
+    add("m_importAction", QT_TRANSLATE_NOOP("ShellPages", "Import profiles..."), Qt::Key_I,
         [&context, window] {
             ImportDlg dialog(context, window);
             Modal::exec(&dialog);
         });
-    add("m_exportAction", QT_TRANSLATE_NOOP("ShellPages", "Export profiles..."),
+    add("m_exportAction", QT_TRANSLATE_NOOP("ShellPages", "Export profiles..."), Qt::Key_E,
         [&context, window] {
             ExportDlg dialog(context, window);
             Modal::exec(&dialog);

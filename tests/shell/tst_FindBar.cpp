@@ -246,6 +246,8 @@ void tst_FindBar::nothingFound()
     QCOMPARE(find(QStringLiteral("xyzzy")), QStringList());
     QCOMPARE(child<QLabel>(m_window.get(), "m_findCount")->text(),
              QStringLiteral("No key has that."));
+    QVERIFY(!child<QListWidget>(m_window.get(), "m_findList")->isVisible());
+    QVERIFY(child<QWidget>(m_window.get(), "m_findResults")->height() < 100);
     pressKey(field(), Qt::Key_Return);
     QCOMPARE(asked.count(), 0);
 }

@@ -15,7 +15,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QPushButton>
 
 #include <cstring>
@@ -630,7 +629,7 @@ void tst_MainWindow::fullDisk()
 void tst_MainWindow::closingWithWhatCannotBeSaved()
 {
     QStringList asked;
-    int answer = QMessageBox::No;
+    int answer = 0;
     Modal::setAnswerer([&](const ModalPrompt &prompt) {
         asked << prompt.text;
         return QVariant(answer);
@@ -644,7 +643,7 @@ void tst_MainWindow::closingWithWhatCannotBeSaved()
     QVERIFY(m_window->isVisible());
     QCOMPARE(asked, QStringList(QStringLiteral("The changes cannot be saved and are lost with "
                                                "the window. Close it?")));
-    answer = QMessageBox::Yes;
+    answer = 1;
     QVERIFY(m_window->close());
     QCOMPARE(asked.size(), 2);
     m_window->show();

@@ -75,6 +75,7 @@ ImportDlg::ImportDlg(ShellContext &context, QWidget *parent)
     layout->addWidget(m_message);
     layout->addLayout(end);
     open->setAutoDefault(false);
+    open->setFocus(); // nothing else can be done first
     m_cancelBtn->setAutoDefault(false);
 
     connect(open, &QPushButton::clicked, this, &ImportDlg::chooseFile);

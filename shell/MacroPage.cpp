@@ -11,6 +11,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 
@@ -271,8 +272,15 @@ void MacroPage::newMacro()
 
 void MacroPage::duplicateMacro()
 {
-    if (const auto macro = m_context.store().state().macro(m_context.owner(), m_current))
-        make(m_current, *macro);
+    const StoreState &state = m_context.store().state();
+    const auto macro = state.macro(m_context.owner(), m_current);
+    if (!macro)
+        return;
+    // a copy of a copy goes on counting
+    static const QRegularExpression number(QStringLiteral(" \\d+$"));
+    const QString original = QString(m_current).remove(number);
+    const bool isCopy = state.macroNames(m_context.owner()).contains(original);
+    make(isCopy ? original : m_current, *macro);
 }
 
 void MacroPage::renameMacro()

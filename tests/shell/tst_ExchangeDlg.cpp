@@ -365,6 +365,7 @@ void tst_ExchangeDlg::openByTheUser()
     });
     ImportDlg dialog(m_shell->context);
     QVERIFY(!child<QPushButton>(&dialog, "m_importBtn")->isEnabled());
+    QCOMPARE(dialog.focusWidget(), child<QPushButton>(&dialog, "m_importOpenBtn"));
     clickOn(child<QPushButton>(&dialog, "m_importOpenBtn"));
     QCOMPARE(child<QLabel>(&dialog, "m_importFile")->text(), QStringLiteral("one.json"));
     QCOMPARE(child<QTreeWidget>(&dialog, "m_importList")->topLevelItem(0)->text(0),

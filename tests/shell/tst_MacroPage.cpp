@@ -167,6 +167,11 @@ void tst_MacroPage::duplicate()
     QCOMPARE(names(), QStringList({QStringLiteral("Save"), QStringLiteral("Save 2")}));
     QVERIFY(events("Save 2") == Four);
     QCOMPARE(m_page->currentMacro(), QStringLiteral("Save 2"));
+    click("m_duplicateBtn");
+    QCOMPARE(m_page->currentMacro(), QStringLiteral("Save 3"));
+    add("Level 5", Four);
+    click("m_duplicateBtn");
+    QCOMPARE(m_page->currentMacro(), QStringLiteral("Level 5 2"));
 }
 
 void tst_MacroPage::renameInTheList()

@@ -1,6 +1,7 @@
 #include "application/ApplicationAdvWid.h"
 
 #include "application/AppHotKeysWid.h"
+#include "application/BranchTitle.h"
 #include "application/HotKey.h"
 #include "interfaces/ButtonGroupEx.h"
 #include "toolkit/PanelStyle.h"
@@ -49,6 +50,9 @@ void ApplicationAdvWid::slotAddTopLevel(QString strTopLev)
     if (!m_tree.addTitle())
         return;
     auto *const topLevel = new AppHotKeysWid(m_tree, strTopLev, m_ui->scrollAreaWidgetContents);
+    // New widgets are the last to be reached by Tab, whatever they stand in.
+    setTabOrder(lastStopIn<AppHotKeysWid>(topLevel->lastStop(), m_ui->m_layout),
+                topLevel->lastStop());
     connect(this, &ApplicationAdvWid::sigSearch, topLevel, &AppHotKeysWid::sigSearch);
     connect(this, &ApplicationAdvWid::sigVantrixKeySelected, topLevel,
             &AppHotKeysWid::sigVantrixKeySelected);

@@ -133,6 +133,7 @@ private slots:
     void lateLeavesAreNotFiltered();
     void searchStylesNothing();
     void tabReachesEveryLeaf();
+    void tabFollowsReading();
     void areasAreAsHighAsTheirContent();
     void areaGrowsWithItsContent();
     void portions();
@@ -682,6 +683,42 @@ void tst_ApplicationAdvWid::tabReachesEveryLeaf()
                                    QStringLiteral("GROUP 0"), QStringLiteral("G0 KEY 0"),
                                    QStringLiteral("G0 KEY 1"), QStringLiteral("GROUP 1"),
                                    QStringLiteral("G1 KEY 0"), QStringLiteral("G1 KEY 1")}));
+}
+
+/// However the files arrive.
+void tst_ApplicationAdvWid::tabFollowsReading()
+{
+    for (const char *folder : {"A/B", "A/C", "D/E"})
+        m_catalog->addFolder(QLatin1String(folder));
+    makePage(0);
+    const auto add = [&](const char *top, const char *second, const char *third, int leaves) {
+        const HotKeyMap map{{QStringLiteral("GROUP"), {{QLatin1String(third), {}}}}};
+        QMetaObject::invokeMethod(m_page.get(), "slotAddHotKeys",
+                                  Q_ARG(QString, QLatin1String(top)),
+                                  Q_ARG(QString, QLatin1String(second)),
+                                  Q_ARG(QString, QLatin1String(third)), Q_ARG(HotKeyMap, map));
+        QTRY_COMPARE(m_page->findChildren<HotKey *>().size(), leaves);
+    };
+    add("D", "E", "1", 1);
+    add("A", "C", "2", 2);
+    add("A", "B", "3", 3);
+    add("A", "C", "4", 4);
+    for (QPushButton *title : m_page->findChildren<QPushButton *>(QStringLiteral("m_title")))
+        title->click();
+    QApplication::setActiveWindow(m_page.get());
+    titleOf(level<AppHotKeysWid>(m_page.get(), QStringLiteral("A")))->setFocus();
+    const auto walk = [](Qt::Key key) {
+        QStringList visited;
+        for (int i = 0; i < 17; ++i) {
+            visited << static_cast<QPushButton *>(QApplication::focusWidget())->text();
+            pressKey(QApplication::focusWidget(), key);
+        }
+        return visited.join(QLatin1Char(' '));
+    };
+    QCOMPARE(walk(Qt::Key_Tab),
+             QStringLiteral("A B 3 GROUP 3 C 2 GROUP 2 4 GROUP 4 D E 1 GROUP 1"));
+    QCOMPARE(walk(Qt::Key_Backtab),
+             QStringLiteral("A 1 GROUP 1 E D 4 GROUP 4 2 GROUP 2 C 3 GROUP 3 B"));
 }
 
 void tst_ApplicationAdvWid::areasAreAsHighAsTheirContent()

@@ -5,7 +5,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QMouseEvent>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -228,5 +228,20 @@ bool MappingView::eventFilter(QObject *watched, QEvent *event)
     // A press on the page, also where nothing takes the focus, says that the user works there.
     if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType())
         setFocusInside(isAncestorOf(static_cast<QWidget *>(watched)));
-    return false;
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    return isKey && watched == m_context.services().keyCapture().capturing() &&
+           isStrayRelease(static_cast<QKeyEvent *>(event));
+}
+
+/// A key that went down in a dialog or a menu and comes up over the page was not meant for it.
+bool MappingView::isStrayRelease(const QKeyEvent *event)
+{
+    const quint32 scanCode = event->nativeScanCode();
+    if (event->type() == QEvent::KeyPress) {
+        m_pressed.insert(scanCode);
+        return false;
+    }
+    if (scanCode == 0 || event->key() == Qt::Key_Print) // some systems tell no press of it
+        return false;
+    return m_pressed.erase(scanCode) == 0;
 }

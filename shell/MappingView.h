@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class KeyMarks;
+class QKeyEvent;
 class VantrixMapWid;
 
 /// The mapping page with everything that the host owes it: it shows profiles, tells it the macros,
@@ -52,12 +53,14 @@ private:
     void onMacrosChanged(int owner);
     void setFocusInside(bool inside);
     void updateCapture();
+    bool isStrayRelease(const QKeyEvent *event);
 
     ShellContext &m_context;
     VantrixMapWid *m_page = nullptr;
     KeyMarks *m_marks = nullptr;
     QStringList m_toldMacros; ///< macros the page knows, in its order
     std::set<std::pair<int, int>> m_marked;
+    std::set<quint32> m_pressed; ///< scan codes of keys that went down over the page
     int m_showCount = 0;
     bool m_isCaptureAllowed = true;
     bool m_isFocusInside = true;

@@ -56,6 +56,7 @@ private slots:
     void languageIsSpokenAtOnce();
     void captureCanBeForbidden();
     void captureKeepsShortcutsOut();
+    void releasesOfOtherWindowsAreNotTaken();
     void captureEndsElsewhere();
     void reopening();
     void reopeningWithNothingToApply();
@@ -570,6 +571,25 @@ void tst_MainWindow::captureKeepsShortcutsOut()
     event.ignore();
     QCoreApplication::sendEvent(m_window.get(), &event);
     QVERIFY(!event.isAccepted());
+}
+
+void tst_MainWindow::releasesOfOtherWindowsAreNotTaken()
+{
+    clickOn(key(7));
+    QWidget *const capturing = m_shell->services.keyCapture().capturing();
+    QVERIFY(capturing);
+    sendNativeKey(capturing, QEvent::KeyRelease, 0x30, 0x42); // went down in a dialog
+    m_shell->store().flush();
+    QCOMPARE(key(7)->text(), QStringLiteral("W"));
+    for (int i = 0; i < 2; ++i) {
+        sendNativeKey(capturing, QEvent::KeyPress, 0x30, 0x42);
+        sendNativeKey(capturing, QEvent::KeyRelease, 0x30, 0x42);
+        m_shell->store().flush();
+        QCOMPARE(key(7)->text(), QStringLiteral("B"));
+        m_window->undo();
+        clickOn(key(8));
+        clickOn(key(7));
+    }
 }
 
 void tst_MainWindow::captureEndsElsewhere()

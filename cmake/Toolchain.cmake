@@ -19,8 +19,9 @@ endif()
 
 set(VANTRIX_SANITIZE "" CACHE STRING "Sanitizers to build with, as for -fsanitize=")
 if(VANTRIX_SANITIZE)
-    add_compile_options(-fsanitize=${VANTRIX_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
-    add_link_options(-fsanitize=${VANTRIX_SANITIZE})
+    set(VANTRIX_SANITIZE_FLAGS -fsanitize=${VANTRIX_SANITIZE})
+    add_compile_options(${VANTRIX_SANITIZE_FLAGS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(${VANTRIX_SANITIZE_FLAGS})
 endif()
 
 # Fuzz targets need to see which way their input takes through the libraries.

@@ -35,6 +35,8 @@ MappingView::MappingView(ShellContext &context, QWidget *parent)
 MappingView::~MappingView()
 {
     qApp->removeEventFilter(this);
+    // The page says good-bye as it is hidden, and there must still be somebody to hear it.
+    delete m_page;
 }
 
 void MappingView::rebuild()

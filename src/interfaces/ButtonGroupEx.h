@@ -36,5 +36,5 @@ private:
     void followFocus(QWidget *now);
     QAbstractButton *nearest(int arrowKey) const;
 
-    QPointer<QAbstractButton> m_focused;
+    QPointer<QWidget> m_focused; ///< a widget, since a button may be losing its focus as it goes
 };

@@ -41,16 +41,10 @@ void AppHotKeysWid::addHotKeys(const QString &strSecondLev, const QString &strTh
 void AppHotKeysWid::addSecondLevel(const QString &strSecondLev)
 {
     auto *const level = new LevelWid(m_tree, strSecondLev, m_ui->scrollAreaWidgetContents);
-    setTabOrder(lastStop(), level->lastStop());
     connect(this, &AppHotKeysWid::sigSearch, level, &LevelWid::sigSearch);
     connect(this, &AppHotKeysWid::sigVantrixKeySelected, level, &LevelWid::sigVantrixKeySelected);
     m_mLevels[strSecondLev] = level;
     m_ui->m_layout->addWidget(level);
-}
-
-QWidget *AppHotKeysWid::lastStop() const
-{
-    return lastStopIn<LevelWid>(m_ui->m_title, m_ui->m_layout);
 }
 
 void AppHotKeysWid::slotTitleClicked()

@@ -32,9 +32,6 @@ public:
     /// exactly that name.
     void addHotKeys(const QString &strSecondLev, const QString &strThirdLev, HotKeyMap mHotKeys);
 
-    /// Where Tab stops last in it.
-    QWidget *lastStop() const;
-
 signals:
     void sigVantrixKeySelected();
     void sigSearch(QString strText);

@@ -42,6 +42,10 @@ signals:
     /// ignoring case. Titles stay, folded or not.
     void sigSearch(QString strText);
 
+protected:
+    /// Tab goes through titles and hot keys as they are read, however they arrived.
+    bool focusNextPrevChild(bool next) override;
+
 private slots:
     void slotKeyClicked(QAbstractButton *button);
     void slotAddTopLevel(QString strTopLev);

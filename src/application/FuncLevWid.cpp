@@ -45,16 +45,10 @@ bool FuncLevWid::addSome(HotKeyMap &mHotKeys)
 HotKeysWid *FuncLevWid::addGroup(const QString &strTitle)
 {
     auto *const group = new HotKeysWid(m_tree, strTitle, m_ui->scrollAreaWidgetContents);
-    setTabOrder(lastStop(), group->lastStop());
     connect(this, &FuncLevWid::sigSearch, group, &HotKeysWid::slotSearch);
     connect(this, &FuncLevWid::sigVantrixKeySelected, group, &HotKeysWid::slotVantrixKeySelected);
     m_ui->m_layout->addWidget(group);
     return group;
-}
-
-QWidget *FuncLevWid::lastStop() const
-{
-    return lastStopIn<HotKeysWid>(m_ui->m_title, m_ui->m_layout);
 }
 
 void FuncLevWid::slotTitleClicked()

@@ -27,9 +27,6 @@ public:
     /// true when nothing is left.
     bool addSome(HotKeyMap &mHotKeys);
 
-    /// Where Tab stops last in it.
-    QWidget *lastStop() const;
-
 signals:
     void sigVantrixKeySelected();
     void sigSearch(QString strText);

@@ -53,15 +53,9 @@ void HotKeysWid::addKeys(std::map<QString, QString> &mKeys, int most)
         mKeys.erase(entry);
         // The number that the group would find by itself, by a look at all buttons there are.
         m_tree.group->addButton(key, -1 - m_tree.keys);
-        setTabOrder(lastStop(), key);
         m_lsKeys.push_back(key);
         m_grid.append(key);
     }
-}
-
-QWidget *HotKeysWid::lastStop() const
-{
-    return m_lsKeys.empty() ? static_cast<QWidget *>(m_ui->m_title) : m_lsKeys.back();
 }
 
 void HotKeysWid::slotVantrixKeySelected() {}

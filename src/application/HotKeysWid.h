@@ -30,9 +30,6 @@ public:
     /// most `most` of them.
     void addKeys(std::map<QString, QString> &mKeys, int most);
 
-    /// Where Tab stops last in it.
-    QWidget *lastStop() const;
-
 public slots:
     /// Leaves keep their check marks: the page does not show which hot key a key holds.
     void slotVantrixKeySelected();

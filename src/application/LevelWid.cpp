@@ -34,15 +34,9 @@ void LevelWid::addFuncLevel(const QString &strThirdLev, HotKeyMap mHotKeys)
 FuncLevWid *LevelWid::makeFuncLevel(const QString &strThirdLev)
 {
     auto *const file = new FuncLevWid(m_tree, strThirdLev, m_ui->scrollAreaWidgetContents);
-    setTabOrder(lastStop(), file->lastStop());
     connect(this, &LevelWid::sigSearch, file, &FuncLevWid::sigSearch);
     connect(this, &LevelWid::sigVantrixKeySelected, file, &FuncLevWid::sigVantrixKeySelected);
     return file;
-}
-
-QWidget *LevelWid::lastStop() const
-{
-    return lastStopIn<FuncLevWid>(m_ui->m_title, m_ui->m_layout);
 }
 
 void LevelWid::slotTitleClicked()

@@ -27,9 +27,6 @@ public:
     /// Adds a file, in portions; it appears when it is complete.
     void addFuncLevel(const QString &strThirdLev, HotKeyMap mHotKeys);
 
-    /// Where Tab stops last in it.
-    QWidget *lastStop() const;
-
 signals:
     void sigVantrixKeySelected();
     void sigSearch(QString strText);

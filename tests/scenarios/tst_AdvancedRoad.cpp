@@ -181,7 +181,7 @@ void tst_AdvancedRoad::record()
 
     tabTo(QStringLiteral("m_apply"));
     XGestures::key(QStringLiteral("space"));
-    const auto &sent = m_services->device().image(0, 0).keys[7].content.mapping;
+    const vantrix_key_mapping sent = m_services->device().image(0, 0).keys[7].content.mapping;
     QCOMPARE(ushort(sent.code), ushort(488));
 }
 

@@ -6,8 +6,17 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <QThread>
 
 namespace {
+
+bool hasOwner(const QLockFile &lock)
+{
+    qint64 process = 0;
+    QString host;
+    QString program;
+    return lock.getLockInfo(&process, &host, &program);
+}
 
 QString lockSuffix()
 {
@@ -40,7 +49,15 @@ StoreContent StoreKeeper::open()
 
 bool StoreKeeper::lock()
 {
-    return m_lock.isLocked() || m_lock.tryLock(0);
+    if (m_lock.isLocked() || m_lock.tryLock(0))
+        return true;
+    // Whoever is killed while making the lock file leaves one without a name, of which nobody can
+    // tell that its owner is gone. A living owner needs but a moment to write its name, and the
+    // file of one that lives is not removed.
+    if (m_lock.error() != QLockFile::LockFailedError || hasOwner(m_lock))
+        return false;
+    QThread::msleep(20);
+    return !hasOwner(m_lock) && m_lock.removeStaleLockFile() && m_lock.tryLock(0);
 }
 
 void StoreKeeper::readOnly(StoreContent *content)

@@ -63,7 +63,7 @@ void tst_StoreKill::neverBetweenTwoTurns()
             expected.flush();
         }
         const ProfileStore store(file);
-        QCOMPARE(store.messages(), QStringList());
+        QCOMPARE(store.messages().join(QLatin1Char(10)), QString());
         if (store.state() == expected.state() && store.stepNames() == expected.stepNames() &&
             store.stepPosition() == expected.stepPosition())
             continue;

@@ -37,6 +37,7 @@ private slots:
     void folderRemovedWhileRunning();
     void heldByAnotherProgram();
     void secondStoreOnlyReads();
+    void lockWithoutAnOwner();
     void copyIsMadeAtCleanClose();
     void oddRows();
     void memoryOnly();
@@ -405,6 +406,15 @@ void tst_StoreRobust::heldByAnotherProgram()
     QSqlDatabase::removeDatabase(QStringLiteral("holder"));
     QVERIFY(store.flush());
     QCOMPARE(store.messages().last(), QStringLiteral("All changes are saved again."));
+}
+
+/// As a process leaves it that is killed between making the file and writing its name.
+void tst_StoreRobust::lockWithoutAnOwner()
+{
+    write(file() + QStringLiteral(".lock"), QByteArray());
+    const ProfileStore store(file());
+    QCOMPARE(store.messages(), QStringList());
+    QVERIFY(!store.isReadOnly());
 }
 
 void tst_StoreRobust::secondStoreOnlyReads()

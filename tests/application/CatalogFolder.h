@@ -3,6 +3,7 @@
 #include "interfaces/CfgFile.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -20,6 +21,15 @@ public:
 
     QString root() const { return m_folder.filePath(QStringLiteral("hotkeys")); }
     void addFolder(const QString &path) const { QDir().mkpath(root() + QLatin1Char('/') + path); }
+    /// Number of folders in it, of both levels.
+    int folders() const
+    {
+        int count = 0;
+        QDirIterator each(root(), QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+        for (; each.hasNext(); ++count)
+            each.next();
+        return count;
+    }
     void addFile(const QString &path, const QByteArray &bytes) const
     {
         const QString full = root() + QLatin1Char('/') + path;

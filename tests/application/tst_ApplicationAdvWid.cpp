@@ -171,6 +171,8 @@ void tst_ApplicationAdvWid::makePage(int leaves)
     m_page = std::make_unique<ApplicationAdvWid>();
     m_page->resize(900, 700);
     m_page->show();
+    QTRY_COMPARE(titles<AppHotKeysWid>(m_page.get()).size() + titles<LevelWid>(m_page.get()).size(),
+                 m_catalog->folders());
     QTRY_COMPARE(m_page->findChildren<HotKey *>().size(), leaves);
     QThreadPool::globalInstance()->waitForDone();
     QTest::qWait(10);

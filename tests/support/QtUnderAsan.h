@@ -4,12 +4,13 @@
 
 #include <memory>
 
-#if defined(__has_feature)
+// g++ has the macro, clang the feature; for g++ Qt defines a feature test that always says no.
+#if defined(__SANITIZE_ADDRESS__)
+#define VANTRIX_LEAKS_ARE_FOUND
+#elif defined(__has_feature)
 #if __has_feature(address_sanitizer)
 #define VANTRIX_LEAKS_ARE_FOUND
 #endif
-#elif defined(__SANITIZE_ADDRESS__)
-#define VANTRIX_LEAKS_ARE_FOUND
 #endif
 
 #ifdef VANTRIX_LEAKS_ARE_FOUND

@@ -1,6 +1,5 @@
 #include "shell/ShellStyle.h"
 
-#include "core/records.h"
 #include "vocabulary/KeyCodes.h"
 
 #include <QApplication>
@@ -156,8 +155,6 @@ QString ShellStyle::headingSheet()
 
 QColor ShellStyle::kind(int inputType)
 {
-    if (inputType == InputType::Unassigned)
-        return line().lighter(130);
     const QColor color = inputColor(inputType);
     // Plain blue on a dark ground cannot be read.
     return color.lightness() < 110 || qGray(color.rgb()) < 70 ? color.lighter(150) : color;

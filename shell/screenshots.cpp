@@ -181,6 +181,9 @@ public:
         drawMapping();
         drawPages();
         drawFind();
+        // Not the folder of the machine that draws.
+        m_context.store().setSetting(HostLocations::hotKeysFolderKey(),
+                                     QStringLiteral("/home/alex/Hot keys"));
         SettingsDlg settings(m_context, &m_window);
         drawDialog("settings", settings);
         ExportDlg files(m_context, &m_window);

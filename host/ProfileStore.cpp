@@ -5,6 +5,8 @@
 
 #include <QThread>
 
+#include <algorithm>
+
 /// Marks what is changed meanwhile as changed by the host, not by the page.
 class ProfileStore::Replacing
 {
@@ -342,6 +344,16 @@ bool ProfileStore::isReadOnly() const
 bool ProfileStore::isSaved() const
 {
     return m_keeper->isSaved();
+}
+
+bool ProfileStore::hasUnsavedWork() const
+{
+    if (isSaved() || isReadOnly())
+        return false;
+    return m_keeper->isLost() ||
+           std::any_of(m_unsaved.begin(), m_unsaved.end(), [](const RecordId &id) {
+               return kindOf(id.table) == StoreKind::Content || id.table == StoreTable::DeviceImage;
+           });
 }
 
 void ProfileStore::setPageLimit(int pages)

@@ -179,6 +179,10 @@ public:
     bool isReadOnly() const;
     /// False while changes wait in memory for a disk that takes them.
     bool isSaved() const;
+    /// True when the end of the process would lose more than settings and what was shown last:
+    /// edits, what the device was sent, or all, where the file is gone. Always false for a store
+    /// that keeps nothing.
+    bool hasUnsavedWork() const;
     /// What was to be said so far, oldest first, also before anyone listened.
     const QStringList &messages() const { return m_messages; }
     /// Lets the file grow to that many pages only; 0 for no limit. Stands in for a full disk.

@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <utility>
+
 namespace {
 
 bool hasOwner(const QLockFile &lock)
@@ -211,6 +213,9 @@ StoreError StoreKeeper::openOlder(StoreContent *content)
 
 bool StoreKeeper::reopen()
 {
+    QDir().mkpath(QFileInfo(m_name).absolutePath());
+    if (isLost())
+        return writeAnew();
     if (!lock())
         return false;
     StoreContent ignored;
@@ -231,29 +236,48 @@ bool StoreKeeper::checkPlace()
     if (m_file.isInPlace())
         return true;
     m_file.close();
+    m_access = InMemory;
+    return writeAnew();
+}
+
+/// Makes the file again that went while the program was running.
+bool StoreKeeper::writeAnew()
+{
+    const StoreError error = makeAnew();
+    if (error != StoreError::None) {
+        m_file.close();
+        report(error);
+        return false;
+    }
+    m_access = Writer;
     m_writeAll = true;
+    return true;
+}
+
+StoreError StoreKeeper::makeAnew()
+{
+    QString aside;
     if (QFile::exists(m_name)) {
-        const QString aside = StoreFile::setAside(m_name, QStringLiteral("replaced"));
-        say(tr("The store %1 was replaced by another file while the program was running. That "
-               "file was kept as %2, and the store was written again.")
-                .arg(shortName(m_name), shortName(aside)));
-    } else {
-        say(tr("The store %1 was removed while the program was running. It was written again.")
-                .arg(shortName(m_name)));
+        aside = StoreFile::setAside(m_name, QStringLiteral("replaced"));
+        m_lossNote = tr("The store %1 was replaced by another file while the program was running. "
+                        "That file was kept as %2, and the store was written again.")
+                         .arg(shortName(m_name), shortName(aside));
+        if (aside.isEmpty())
+            return StoreError::ReadOnly;
+    } else if (m_lossNote.isEmpty()) {
+        m_lossNote = tr("The store %1 was removed while the program was running. It was written "
+                        "again.")
+                         .arg(shortName(m_name));
     }
     QDir().mkpath(QFileInfo(m_name).absolutePath());
-    if (!QFile::exists(m_name + lockSuffix())) {
+    if (!QFile::exists(m_name + lockSuffix()))
         m_lock.unlock();
-        lock();
-    }
+    if (!lock())
+        return StoreError::ReadOnly;
     for (const QString &left : {QStringLiteral("-wal"), QStringLiteral("-shm")})
         QFile::remove(m_name + left);
-    if (StoreFile::create(m_name) == StoreError::None &&
-        m_file.open(m_name, StoreFile::ReadWrite) == StoreError::None)
-        return true;
-    m_file.close();
-    m_access = InMemory;
-    return false;
+    const StoreError error = StoreFile::create(m_name);
+    return error == StoreError::None ? m_file.open(m_name, StoreFile::ReadWrite) : error;
 }
 
 bool StoreKeeper::save(const StoreState &state, const StoreHistory &history,
@@ -284,6 +308,8 @@ bool StoreKeeper::save(const StoreState &state, const StoreHistory &history,
     m_backupIsFresh = false;
     m_writeAll = false;
     m_saved = true;
+    if (isLost())
+        say(std::exchange(m_lossNote, QString()));
     if (m_reported != StoreError::None)
         say(tr("All changes are saved again."));
     m_reported = StoreError::None;

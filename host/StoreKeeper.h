@@ -38,6 +38,8 @@ public:
     bool isSecondReader() const { return m_access == SecondReader; }
     /// False while changes wait for a disk that takes them.
     bool isSaved() const { return m_saved; }
+    /// True while the file that held everything is gone and nothing was written in its stead.
+    bool isLost() const { return !m_lossNote.isEmpty(); }
     /// Transactions made so far.
     int transactionCount() const { return m_transactions; }
     QStringList takeMessages();
@@ -60,6 +62,8 @@ private:
     void readOnly(StoreContent *content);
     bool reopen();
     bool checkPlace();
+    bool writeAnew();
+    StoreError makeAnew();
     void readElsewhere(const QString &name, StoreContent *content);
     void report(StoreError error);
     void say(const QString &message);
@@ -69,6 +73,8 @@ private:
     QLockFile m_lock;
     StoreFile m_file;
     QStringList m_messages;
+    /// What became of a file that went while the program was running, for when it is back.
+    QString m_lossNote;
     AccessState m_access = InMemory;
     StoreError m_reported = StoreError::None;
     bool m_writeAll = false;

@@ -492,11 +492,10 @@ void MainWindow::remember()
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     remember();
-    const ProfileStore &store = m_context.store();
-    const bool isLosing = !store.isSaved() && !store.isReadOnly();
-    if (isLosing && !Modal::question(this, windowTitle(),
-                                     tr("The changes cannot be saved and are lost with the "
-                                        "window. Close it?"))) {
+    if (m_context.store().hasUnsavedWork() &&
+        !Modal::question(this, windowTitle(),
+                         tr("The changes cannot be saved and are lost with the window. Close "
+                            "it?"))) {
         event->ignore();
         return;
     }

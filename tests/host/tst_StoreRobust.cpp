@@ -35,6 +35,9 @@ private slots:
     void removedWhileRunning();
     void replacedWhileRunning();
     void folderRemovedWhileRunning();
+    void folderReplacedWhileRunning();
+    void unsavedWork_data();
+    void unsavedWork();
     void heldByAnotherProgram();
     void secondStoreOnlyReads();
     void lockWithoutAnOwner();
@@ -383,6 +386,72 @@ void tst_StoreRobust::folderRemovedWhileRunning()
     QVERIFY(store.flush());
     const ProfileStore reader(name);
     QVERIFY(reader.state() == store.state());
+}
+
+/// Something stands where the folder was, and goes again.
+void tst_StoreRobust::folderReplacedWhileRunning()
+{
+    const QString folder = m_folder->filePath(QStringLiteral("a"));
+    const QString name = folder + QStringLiteral("/my.store");
+    ProfileStore store(name);
+    assign(store, 1, 4);
+    QVERIFY(store.flush());
+    QVERIFY(!store.hasUnsavedWork());
+    QVERIFY(QDir(folder).removeRecursively());
+    write(folder, "other");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("our own lock file")));
+    store.setSetting(QStringLiteral("width"), QStringLiteral("100"));
+    QVERIFY(!store.flush());
+    QVERIFY(store.hasUnsavedWork());
+    QCOMPARE(store.messages(),
+             QStringList(QStringLiteral("The store my.store cannot be written. Changes are kept in "
+                                        "memory and saved as soon as possible.")));
+    QVERIFY(QFile::remove(folder));
+    QVERIFY(store.flush());
+    QVERIFY(!store.hasUnsavedWork());
+    QCOMPARE(store.messages().mid(1),
+             QStringList({QStringLiteral("The store my.store was removed while the program was "
+                                         "running. It was written again."),
+                          QStringLiteral("All changes are saved again.")}));
+    const ProfileStore reader(name);
+    QVERIFY(reader.state() == store.state());
+}
+
+void tst_StoreRobust::unsavedWork_data()
+{
+    QTest::addColumn<int>("what");
+    QTest::addColumn<bool>("isWork");
+    QTest::newRow("setting") << 0 << false;
+    QTest::newRow("selected key") << 1 << false;
+    QTest::newRow("key") << 2 << true;
+    QTest::newRow("device image") << 3 << true;
+}
+
+void tst_StoreRobust::unsavedWork()
+{
+    QFETCH(int, what);
+    QFETCH(bool, isWork);
+    makeStore();
+    ProfileStore store(file());
+    store.setPageLimit(store.pageCount());
+    for (int size = 1000; store.isSaved() && size < 1'000'000; size *= 2) {
+        store.setSetting(QStringLiteral("large"), QString(size, QLatin1Char('x')));
+        store.flush();
+    }
+    QVERIFY(!store.hasUnsavedWork());
+    if (what == 0)
+        store.setSetting(QStringLiteral("width"), QStringLiteral("100"));
+    if (what == 1)
+        store.setCurrentKey(0, 0, 5);
+    if (what == 2)
+        assign(store, 2, 5);
+    if (what == 3)
+        store.setDeviceRecord(profileRecord(StoreTable::DeviceImage, 0, 0), QByteArray("image"));
+    QVERIFY(!store.flush());
+    QCOMPARE(store.hasUnsavedWork(), isWork);
+    store.setPageLimit(0);
+    QVERIFY(store.flush());
+    QVERIFY(!store.hasUnsavedWork());
 }
 
 void tst_StoreRobust::heldByAnotherProgram()

@@ -11,11 +11,13 @@
 #include "support/TestMain.h"
 
 #include <QAction>
+#include <QDir>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRegularExpression>
 
 #include <cstring>
 #include <memory>
@@ -64,6 +66,8 @@ private slots:
     void secondShell();
     void fullDisk();
     void closingWithWhatCannotBeSaved();
+    void closingWithoutEditsOnAFullDisk();
+    void closingAfterTheFileIsGone();
     void opensNarrow();
     void titleAndCounts();
 
@@ -670,6 +674,48 @@ void tst_MainWindow::closingWithWhatCannotBeSaved()
     m_shell->store().setPageLimit(0);
     QVERIFY(m_window->close());
     QCOMPARE(asked.size(), 2);
+}
+
+/// Where the window went is not worth a question.
+void tst_MainWindow::closingWithoutEditsOnAFullDisk()
+{
+    bool isAsked = false;
+    Modal::setAnswerer([&](const ModalPrompt &) {
+        isAsked = true;
+        return QVariant(0);
+    });
+    ProfileStore &store = m_shell->store();
+    store.setPageLimit(store.pageCount());
+    for (int size = 1000; store.isSaved() && size < 1'000'000; size *= 2) {
+        store.setSetting(QStringLiteral("large"), QString(size, QLatin1Char('x')));
+        store.flush();
+    }
+    QVERIFY(!store.isSaved());
+    QVERIFY(m_window->close());
+    QVERIFY(!isAsked);
+    m_window->show();
+    assign(7, "btn_48");
+    QVERIFY(!m_window->close());
+    QVERIFY(isAsked);
+}
+
+void tst_MainWindow::closingAfterTheFileIsGone()
+{
+    QStringList asked;
+    Modal::setAnswerer([&](const ModalPrompt &prompt) {
+        asked << prompt.text;
+        return QVariant(0);
+    });
+    const QString folder = m_shell->folder.filePath(QStringLiteral("data"));
+    QVERIFY(QDir(folder).removeRecursively());
+    QFile notAFolder(folder);
+    QVERIFY(notAFolder.open(QIODevice::WriteOnly));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("our own lock file")));
+    QVERIFY(!m_window->close());
+    QCOMPARE(asked.size(), 1);
+    QVERIFY(notAFolder.remove());
+    QVERIFY(m_window->close());
+    QCOMPARE(asked.size(), 1);
 }
 
 void tst_MainWindow::opensNarrow()

@@ -224,6 +224,7 @@ void tst_ReadHotKeysThr::format_data()
     row("empty", "", "");
     row("one pair", "Edit\t\tCopy\tPaste\n\t\tctrl+c\tctrl+v\n", "[EDIT]COPY=CTRL+C;PASTE=CTRL+V;");
     row("CR LF", "Edit\t\tCopy\r\n\t\tctrl+c\r\n", "[EDIT]COPY=CTRL+C;");
+    row("CR alone", "E\t\tA\tB\n\t\tx\ry\tz\r\r\n", "[E]A=X\rY;B=Z\r;");
     row("no line end", "Edit\t\tCopy\n\t\tctrl+c", "[EDIT]COPY=CTRL+C;");
     row("only separators", "\t\t\t\t\n\t\t\t\tx\n\t\t\t\t\t\n", "");
     row("empty name ends the pair", "E\t\tA\t\tB\n\t\t1\t2\t3\n", "[E]A=1;");

@@ -108,6 +108,12 @@ void ProfileList::setCompact(bool compact)
     m_buttons->ensurePolished();
     const int full = qMax(FullWidth, m_buttons->sizeHint().width() + 16);
     setFixedWidth(compact ? CompactWidth : full);
+}
+
+// The height of a row goes by its width.
+void ProfileList::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
     m_list->doItemsLayout();
 }
 

@@ -45,6 +45,9 @@ signals:
     /// A name is to be edited and a strip has no room for it.
     void namesNeeded();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void refresh();
     void refreshRow(QListWidgetItem *item);

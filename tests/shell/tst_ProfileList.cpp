@@ -10,6 +10,7 @@
 #include <QToolButton>
 
 #include <memory>
+#include <set>
 
 class tst_ProfileList : public QObject
 {
@@ -19,6 +20,7 @@ private slots:
     void init();
     void cleanup();
     void listsAll();
+    void rowsGoByTheWidth();
     void tellsStates();
     void clickShows();
     void renames();
@@ -65,6 +67,29 @@ void tst_ProfileList::listsAll()
     QCOMPARE(name(0), QStringLiteral("PROFILE 1"));
     QCOMPARE(name(23), QStringLiteral("PROFILE 24"));
     QCOMPARE(list()->currentRow(), 0);
+}
+
+void tst_ProfileList::rowsGoByTheWidth()
+{
+    const auto distances = [this] {
+        const auto top = [this](int row) { return list()->visualItemRect(list()->item(row)).top(); };
+        std::set<int> all;
+        for (int row = 1; row < list()->count(); ++row)
+            all.insert(top(row) - top(row - 1));
+        return all;
+    };
+    QFont small = m_list->font();
+    small.setPixelSize(9);
+    list()->setFont(small);
+    QTRY_COMPARE(distances(), std::set<int>({28}));
+    m_list->setFixedWidth(100);
+    QTRY_COMPARE(distances(), std::set<int>({26}));
+    m_list->setFixedWidth(240);
+    QTRY_COMPARE(distances(), std::set<int>({28}));
+    m_list->setCompact(true);
+    QTRY_COMPARE(distances(), std::set<int>({26}));
+    m_list->setCompact(false);
+    QTRY_COMPARE(distances(), std::set<int>({28}));
 }
 
 void tst_ProfileList::tellsStates()

@@ -72,7 +72,9 @@ void tst_ProfileList::listsAll()
 void tst_ProfileList::rowsGoByTheWidth()
 {
     const auto distances = [this] {
-        const auto top = [this](int row) { return list()->visualItemRect(list()->item(row)).top(); };
+        const auto top = [this](int row) {
+            return list()->visualItemRect(list()->item(row)).top();
+        };
         std::set<int> all;
         for (int row = 1; row < list()->count(); ++row)
             all.insert(top(row) - top(row - 1));

@@ -142,6 +142,7 @@ void tst_AppTables::function()
     QCOMPARE(appFunctionName(expected.type, expected.id), expected.name);
     const auto &shortcuts = AppShortcuts(expected.type);
     QCOMPARE(shortcuts.size(), std::size_t(19));
+    QVERIFY(shortcuts.count(expected.id));
     QVERIFY(shortcuts.at(expected.id) == expected.sequence);
     const auto &images = AppImages(expected.type);
     QCOMPARE(images.count(expected.id), std::size_t(expected.picture ? 1 : 0));
@@ -162,7 +163,9 @@ void tst_AppTables::hint()
 {
     QFETCH(int, row);
     const HintRow &expected = Hints[std::size_t(row)];
-    QCOMPARE(AppHints(expected.type).at(expected.id), expected.text);
+    const auto &hints = AppHints(expected.type);
+    QVERIFY(hints.count(expected.id));
+    QCOMPARE(hints.at(expected.id), expected.text);
 }
 
 void tst_AppTables::hintsOfAllOthers()
@@ -253,6 +256,8 @@ void tst_AppTables::application()
     QFETCH(QString, executable);
     QFETCH(int, launch);
     QCOMPARE(QString::fromLatin1(appTypeName(type)), name);
+    QVERIFY(AppIds().count(type));
+    QVERIFY(AppLaunchFuncs().count(type));
     QCOMPARE(QString::fromLatin1(AppIds().at(type).productCode), productCode);
     QCOMPARE(QString::fromLatin1(AppIds().at(type).executable), executable);
     QCOMPARE(AppLaunchFuncs().at(type), launch);
@@ -295,6 +300,7 @@ void tst_AppTables::namesOfNoFunction()
 void tst_AppTables::sharedPictureAndName()
 {
     QCOMPARE(appFunctionName(2, 5), "BRUSH OPACITY");
+    QVERIFY(AppImages(2).count(5));
     QCOMPARE(AppImages(2).at(5), QStringLiteral(":/VantrixMap/Application/AI/brush_hardness"));
     QCOMPARE(appFunctionName(0, 15), "PEN");
     QCOMPARE(appFunctionName(1, 9), "PEN");

@@ -474,9 +474,10 @@ void tst_KeyCodes::names()
 {
     QFETCH(int, number);
     const NameRow &row = Names[std::size_t(number)];
-    const auto found = KeyNameCodes().at(QString::fromLatin1(row.name));
-    QCOMPARE(int(found.first), row.code);
-    QCOMPARE(int(found.second), row.flag);
+    const auto found = KeyNameCodes().find(QString::fromLatin1(row.name));
+    QVERIFY(found != KeyNameCodes().end());
+    QCOMPARE(int(found->second.first), row.code);
+    QCOMPARE(int(found->second.second), row.flag);
 }
 
 void tst_KeyCodes::scanCodes_data()
@@ -487,6 +488,7 @@ void tst_KeyCodes::scanCodes_data()
 void tst_KeyCodes::scanCodes()
 {
     QFETCH(int, number);
+    QVERIFY(ScanToKeyCode().count(number));
     QCOMPARE(int(ScanToKeyCode().at(number)), Scans.at(number));
 }
 
@@ -560,6 +562,7 @@ void tst_KeyCodes::shortcuts()
     QFETCH(int, number);
     const ShortcutRow &row = Shortcuts[std::size_t(number)];
     QCOMPARE(winShortcutName(number), row.name);
+    QVERIFY(WinShortcutKeys().count(number));
     QVERIFY(WinShortcutKeys().at(number) == row.keys);
 }
 
@@ -571,6 +574,7 @@ void tst_KeyCodes::sequences_data()
 void tst_KeyCodes::sequences()
 {
     QFETCH(int, number);
+    QVERIFY(SymbolKeySequences().count(ushort(number)));
     QVERIFY(SymbolKeySequences().at(ushort(number)) == Sequences.at(number));
 }
 
@@ -615,6 +619,7 @@ void tst_KeyCodes::inputLists()
 {
     QFETCH(int, input);
     QFETCH(std::vector<int>, codes);
+    QVERIFY(InputKeyLists().count(input));
     const auto &list = InputKeyLists().at(input);
     QCOMPARE(std::vector<int>(list.begin(), list.end()), codes);
 }

@@ -102,6 +102,7 @@ void tst_KeyImages::image()
     QFETCH(int, code);
     QFETCH(QString, path);
     const auto &images = imagesNamed(table);
+    QVERIFY(images.count(ushort(code)));
     QCOMPARE(images.at(ushort(code)), path);
     QCOMPARE(imageOf(images, ushort(code)), path);
     QVERIFY(!QPixmap(path).isNull());

@@ -35,6 +35,7 @@ void tst_KeyLegends::everyLegend()
     QFETCH(int, language);
     const LegendRow &expected = legendRows()[std::size_t(row)];
     QCOMPARE(keyLegend(expected.scanCode, language), expectedLegend(expected, language));
+    QVERIFY(KeyLegends().count(expected.scanCode));
     QCOMPARE(QString::fromUtf8(KeyLegends().at(expected.scanCode)[std::size_t(language)]),
              expectedLegend(expected, language));
 }
@@ -74,8 +75,10 @@ void tst_KeyLegends::languages()
                                "Turkish",
                                "Vietnamese"};
     QCOMPARE(LanguageIndex().size(), std::size_t(15));
-    for (int i = 0; i < 15; ++i)
+    for (int i = 0; i < 15; ++i) {
+        QVERIFY2(LanguageIndex().count(names[i]), qPrintable(names[i]));
         QCOMPARE(LanguageIndex().at(names[i]), i);
+    }
 }
 
 void tst_KeyLegends::layouts()

@@ -78,6 +78,7 @@ void tst_Presets::keyboardPreset()
     QFETCH(int, key);
     QFETCH(int, code);
     QCOMPARE(KeyboardPresets().size(), std::size_t(3));
+    QVERIFY(KeyboardPresets().count(preset));
     QCOMPARE(int(KeyboardPresets().at(preset)[std::size_t(key)]), code);
 }
 
@@ -97,6 +98,7 @@ void tst_Presets::gamePreset()
     QFETCH(int, key);
     QCOMPARE(GamePresets().size(), std::size_t(3));
     const auto &expected = GameCodes.at(preset);
+    QVERIFY(GamePresets().count(preset));
     const auto &rows = GamePresets().at(preset);
     QCOMPARE(rows.count(key), expected.count(key));
     if (expected.count(key))
@@ -114,6 +116,7 @@ void tst_Presets::appPreset()
     QFETCH(int, key);
     QFETCH(int, code);
     QCOMPARE(AppPresetKeys().size(), std::size_t(3));
+    QVERIFY(AppPresetKeys().count(preset));
     QCOMPARE(int(AppPresetKeys().at(preset)[std::size_t(key)]), code);
     QCOMPARE(isAppPresetCode(key), key < 1 || key > 19);
 }
@@ -128,6 +131,7 @@ void tst_Presets::appPresetType()
 void tst_Presets::everyFunctionOnce()
 {
     for (const int preset : {6, 7, 8}) {
+        QVERIFY(AppPresetKeys().count(preset));
         std::map<int, int> counts;
         for (int key = 1; key <= 19; ++key)
             ++counts[AppPresetKeys().at(preset)[std::size_t(key)]];
@@ -138,6 +142,8 @@ void tst_Presets::everyFunctionOnce()
 
 void tst_Presets::gaps()
 {
+    QVERIFY(GamePresets().count(5));
+    QVERIFY(KeyboardPresets().count(0) && KeyboardPresets().count(2));
     for (const int key : {17, 19, 21, 24, 25, 26, 27})
         QCOMPARE(GamePresets().at(5).count(key), std::size_t(0));
     const auto &base = KeyboardPresets().at(0);
@@ -178,7 +184,9 @@ void tst_Presets::sidePanel()
     QFETCH(QString, tag);
     QFETCH(QString, name);
     QFETCH(int, input);
-    const PresetPanelRow row = (isGroup ? PresetGroups() : PresetPanels()).at(number);
+    const auto &rows = isGroup ? PresetGroups() : PresetPanels();
+    QVERIFY(rows.count(number));
+    const PresetPanelRow &row = rows.at(number);
     QCOMPARE(QString::fromLatin1(row.tag), tag);
     QCOMPARE(QString::fromLatin1(row.name), name);
     QCOMPARE(row.inputType, input);

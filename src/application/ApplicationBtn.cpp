@@ -127,6 +127,12 @@ void ApplicationBtn::slotVantrixKeySelected()
     m_group->setNoneButtonChecked();
 }
 
+void ApplicationBtn::slotApplicationAssigned(int iAppType)
+{
+    if (iAppType != m_appType)
+        m_group->setNoneButtonChecked();
+}
+
 void ApplicationBtn::slotChangeAppPath()
 {
     // The window may go while the dialog is open, and takes the dialog along.

@@ -33,6 +33,9 @@ public slots:
     void slotApplicationSelected(int iAppType, int iFuncId);
     /// Closes the section and shows no function as checked. Emits nothing.
     void slotVantrixKeySelected();
+    /// A function was clicked in the panel: shows none as checked if it is another application's.
+    /// Emits nothing.
+    void slotApplicationAssigned(int iAppType);
 
 signals:
     /// The user clicked a function (id 0 to 18), or clicked the checked one again: (-1, -1) then.

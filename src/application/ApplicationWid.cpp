@@ -37,6 +37,8 @@ void ApplicationWid::addSection(int appType)
     auto *const section = new ApplicationBtn(appType, this);
     connect(section, &ApplicationBtn::sigApplicationAssigned, this,
             &ApplicationWid::sigApplicationAssigned);
+    connect(this, &ApplicationWid::sigApplicationAssigned, section,
+            &ApplicationBtn::slotApplicationAssigned);
     connect(this, &ApplicationWid::sigApplicationSelected, section,
             &ApplicationBtn::slotApplicationSelected);
     connect(this, &ApplicationWid::sigVantrixKeySelected, section,

@@ -121,6 +121,7 @@ private slots:
     void selectionIsInViewLater();
     void selectionOfAnotherKeepsTheCheck();
     void selectionMovesTheCheck();
+    void aClickTakesTheCheckOfOthers();
     void unknownSelections_data();
     void unknownSelections();
     void resetClosesEverything();
@@ -369,6 +370,29 @@ void tst_ApplicationWid::selectionMovesTheCheck()
     QVERIFY(!function(1, 0)->isChecked());
     QVERIFY(function(1, 18)->isChecked());
     QVERIFY(m_assigned.isEmpty());
+}
+
+void tst_ApplicationWid::aClickTakesTheCheckOfOthers()
+{
+    const auto pick = [this](int appType, int id) {
+        if (!header(appType)->isChecked())
+            clickOn(header(appType));
+        list(appType)->ensureWidgetVisible(function(appType, id));
+        clickOn(function(appType, id));
+    };
+    const auto checked = [this] {
+        return QVector<int>{checkedFunction(0), checkedFunction(1), checkedFunction(2)};
+    };
+    pick(0, 1);
+    pick(2, 2);
+    QCOMPARE(checked(), QVector<int>({-1, -1, 2}));
+    pick(0, 1);
+    QCOMPARE(checked(), QVector<int>({1, -1, -1}));
+    pick(1, 17);
+    QCOMPARE(checked(), QVector<int>({-1, 17, -1}));
+    QCOMPARE(open(), QVector<bool>({false, true, false}));
+    QCOMPARE(m_assigned,
+             QVector<Assigned>({Assigned(0, 1), Assigned(2, 2), Assigned(0, 1), Assigned(1, 17)}));
 }
 
 void tst_ApplicationWid::unknownSelections_data()

@@ -27,6 +27,17 @@ QString runFileDialog(QFileDialog *fileDialog)
     return file;
 }
 
+ModalPrompt promptOf(ModalPrompt::Kind kind, QWidget *parent, const QString &title,
+                     const QString &text)
+{
+    ModalPrompt prompt;
+    prompt.kind = kind;
+    prompt.parent = parent;
+    prompt.title = title;
+    prompt.text = text;
+    return prompt;
+}
+
 } // namespace
 
 Modal::Modal(QObject *parent) : QObject(parent) {}
@@ -53,67 +64,46 @@ QVariant Modal::ask(const ModalPrompt &prompt, const std::function<QVariant()> &
 
 int Modal::exec(QDialog *dialog)
 {
-    ModalPrompt prompt;
-    prompt.kind = ModalPrompt::Dialog;
-    prompt.parent = dialog->parentWidget();
-    prompt.title = dialog->windowTitle();
+    ModalPrompt prompt =
+        promptOf(ModalPrompt::Dialog, dialog->parentWidget(), dialog->windowTitle(), QString());
     prompt.dialog = dialog;
     return instance()->ask(prompt, [dialog] { return dialog->exec(); }).toInt();
 }
 
 void Modal::warning(QWidget *parent, const QString &title, const QString &text)
 {
-    ModalPrompt prompt;
-    prompt.kind = ModalPrompt::Warning;
-    prompt.parent = parent;
-    prompt.title = title;
-    prompt.text = text;
-    instance()->ask(
-        prompt, [&] { return runBox(QMessageBox::Warning, parent, title, text, QMessageBox::Ok); });
+    instance()->ask(promptOf(ModalPrompt::Warning, parent, title, text), [&] {
+        return runBox(QMessageBox::Warning, parent, title, text, QMessageBox::Ok);
+    });
 }
 
 int Modal::question(QWidget *parent, const QString &title, const QString &text)
 {
-    ModalPrompt prompt;
-    prompt.kind = ModalPrompt::Question;
-    prompt.parent = parent;
-    prompt.title = title;
-    prompt.text = text;
     const auto user = [&] {
         return int(runBox(QMessageBox::Question, parent, title, text,
                           QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes);
     };
-    return instance()->ask(prompt, user).toInt();
+    return instance()->ask(promptOf(ModalPrompt::Question, parent, title, text), user).toInt();
 }
 
 QString Modal::openFileName(QWidget *parent, const QString &title, const QString &dir,
                             const QString &filter)
 {
-    ModalPrompt prompt;
-    prompt.kind = ModalPrompt::OpenFile;
-    prompt.parent = parent;
-    prompt.title = title;
-    prompt.text = filter;
     const auto user = [&] {
         auto *const dialog = new QFileDialog(parent, title, dir, filter);
         dialog->setFileMode(QFileDialog::ExistingFile);
         return runFileDialog(dialog);
     };
-    return instance()->ask(prompt, user).toString();
+    return instance()->ask(promptOf(ModalPrompt::OpenFile, parent, title, filter), user).toString();
 }
 
 QString Modal::saveFileName(QWidget *parent, const QString &title, const QString &file,
                             const QString &filter)
 {
-    ModalPrompt prompt;
-    prompt.kind = ModalPrompt::SaveFile;
-    prompt.parent = parent;
-    prompt.title = title;
-    prompt.text = filter;
     const auto user = [&] {
         auto *const dialog = new QFileDialog(parent, title, file, filter);
         dialog->setAcceptMode(QFileDialog::AcceptSave);
         return runFileDialog(dialog);
     };
-    return instance()->ask(prompt, user).toString();
+    return instance()->ask(promptOf(ModalPrompt::SaveFile, parent, title, filter), user).toString();
 }

@@ -8,7 +8,6 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -45,8 +44,7 @@ SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
     form->setContentsMargins(16, 16, 16, 16);
     form->addRow(tr("&Language:"), m_language);
     form->addRow(tr("&Hot-key catalog:"), makePathRow(m_hotKeys, [this] {
-                     return QFileDialog::getExistingDirectory(this, tr("Hot-key catalog"),
-                                                              m_hotKeys->text());
+                     return Modal::openFolder(this, tr("Hot-key catalog"), m_hotKeys->text());
                  }));
     for (int type = 0; type < AppType::Count; ++type) {
         auto *edit = new QLineEdit(this);

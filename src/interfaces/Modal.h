@@ -15,12 +15,12 @@ class QDialog;
 /// What a modal thing asks. `dialog` is set for dialogs of one's own only.
 struct VANTRIX_EXPORT ModalPrompt
 {
-    enum Kind { Warning, Question, OpenFile, SaveFile, Dialog };
+    enum Kind { Warning, Question, OpenFile, SaveFile, OpenFolder, Dialog };
 
     Kind kind = Dialog;
     QPointer<QWidget> parent;
     QString title;
-    QString text; ///< message, or the filter of a file dialog
+    QString text; ///< message, or the filter of a file dialog; empty for a folder
     QPointer<QDialog> dialog;
 };
 
@@ -53,6 +53,8 @@ public:
     /// Asks where to write a file, starting from `file`; empty if the user thought better of it.
     static QString saveFileName(QWidget *parent, const QString &title, const QString &file,
                                 const QString &filter);
+    /// Asks for a folder that exists, starting in `dir`; empty if the user thought better of it.
+    static QString openFolder(QWidget *parent, const QString &title, const QString &dir);
 
 signals:
     void opening();

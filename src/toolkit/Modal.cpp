@@ -107,3 +107,14 @@ QString Modal::saveFileName(QWidget *parent, const QString &title, const QString
     };
     return instance()->ask(promptOf(ModalPrompt::SaveFile, parent, title, filter), user).toString();
 }
+
+QString Modal::openFolder(QWidget *parent, const QString &title, const QString &dir)
+{
+    const auto user = [&] {
+        auto *const dialog = new QFileDialog(parent, title, dir);
+        dialog->setFileMode(QFileDialog::Directory);
+        dialog->setOption(QFileDialog::ShowDirsOnly);
+        return runFileDialog(dialog);
+    };
+    return instance()->ask(promptOf(ModalPrompt::OpenFolder, parent, title, {}), user).toString();
+}

@@ -1,11 +1,13 @@
 #include "shell/SettingsDlg.h"
 
 #include "ShellFixture.h"
+#include "interfaces/Modal.h"
 #include "support/Gestures.h"
 #include "support/TestMain.h"
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
 
 class tst_SettingsDlg : public QObject
@@ -13,10 +15,13 @@ class tst_SettingsDlg : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup() { Modal::setAnswerer(nullptr); }
     void showsWhatIsStored();
     void acceptStores();
     void cancelStoresNothing();
     void pathsAreFoundAgain();
+    void browseFillsThePath_data();
+    void browseFillsThePath();
 };
 
 void tst_SettingsDlg::showsWhatIsStored()
@@ -73,6 +78,42 @@ void tst_SettingsDlg::pathsAreFoundAgain()
     dialog.accept();
     QCOMPARE(shell.services.locations().latestAppPaths(),
              QStringList({QStringLiteral("/opt/ps"), QString(), QString()}));
+}
+
+void tst_SettingsDlg::browseFillsThePath_data()
+{
+    QTest::addColumn<QString>("edit");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("catalog") << "m_hotKeys" << int(ModalPrompt::OpenFolder) << "Hot-key catalog";
+    QTest::newRow("program") << "m_app1" << int(ModalPrompt::OpenFile) << "Program";
+}
+
+/// What is thought better of leaves the path as it is.
+void tst_SettingsDlg::browseFillsThePath()
+{
+    QFETCH(QString, edit);
+    QFETCH(int, kind);
+    QFETCH(QString, title);
+    ShellFixture shell;
+    SettingsDlg dialog(shell.context);
+    auto *const line = child<QLineEdit>(&dialog, edit);
+    auto *const browse = line->parentWidget()->findChild<QPushButton *>();
+    QVERIFY(browse);
+    ModalPrompt seen;
+    QString answer = QStringLiteral("/a b/ü");
+    Modal::setAnswerer([&](const ModalPrompt &prompt) {
+        seen = prompt;
+        return QVariant(answer);
+    });
+    browse->click();
+    QCOMPARE(int(seen.kind), kind);
+    QCOMPARE(seen.title, title);
+    QCOMPARE(seen.parent.data(), &dialog);
+    QCOMPARE(line->text(), QStringLiteral("/a b/ü"));
+    answer.clear();
+    browse->click();
+    QCOMPARE(line->text(), QStringLiteral("/a b/ü"));
 }
 
 VANTRIX_TEST_MAIN(tst_SettingsDlg)

@@ -25,6 +25,7 @@ private slots:
     void openingAndClosedFrameThePrompt();
     void realBoxesWork();
     void realFileDialogsWork();
+    void realFolderDialogWorks();
     void dialogDestroyedWhileOpen();
     void boxesDestroyedWhileOpen_data();
     void boxesDestroyedWhileOpen();
@@ -158,6 +159,26 @@ void tst_Modal::realFileDialogsWork()
     QCOMPARE(Modal::saveFileName(nullptr, "Save", fresh, "execute(*.exe)"), QString());
 }
 
+void tst_Modal::realFolderDialogWorks()
+{
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir("inner"));
+    const auto answer = [this](bool isAccepted) {
+        QTimer::singleShot(0, this, [isAccepted] {
+            auto *const dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            QCOMPARE(dialog->windowTitle(), QString("Folder"));
+            QVERIFY(dialog->testOption(QFileDialog::ShowDirsOnly));
+            dialog->findChild<QLineEdit *>()->setText("inner");
+            QTest::keyClick(dialog, isAccepted ? Qt::Key_Return : Qt::Key_Escape);
+        });
+    };
+    answer(true);
+    QCOMPARE(Modal::openFolder(nullptr, "Folder", folder.path()), folder.filePath("inner"));
+    answer(false);
+    QCOMPARE(Modal::openFolder(nullptr, "Folder", folder.path()), QString());
+}
+
 void tst_Modal::boxesDestroyedWhileOpen_data()
 {
     QTest::addColumn<int>("kind");
@@ -165,6 +186,7 @@ void tst_Modal::boxesDestroyedWhileOpen_data()
     QTest::newRow("question") << 1;
     QTest::newRow("open file") << 2;
     QTest::newRow("save file") << 3;
+    QTest::newRow("folder") << 4;
 }
 
 void tst_Modal::boxesDestroyedWhileOpen()
@@ -185,8 +207,11 @@ void tst_Modal::boxesDestroyedWhileOpen()
     case 2:
         QCOMPARE(Modal::openFileName(parent, "Open File", QString(), "execute(*.exe)"), QString());
         break;
-    default:
+    case 3:
         QCOMPARE(Modal::saveFileName(parent, "Save", "a.exe", "execute(*.exe)"), QString());
+        break;
+    default:
+        QCOMPARE(Modal::openFolder(parent, "Folder", QString()), QString());
         break;
     }
     QCOMPARE(closed, 1);

@@ -1,6 +1,6 @@
 #include "shell/GivenText.h"
 
-#include <QTextDocument>
+#include "vocabulary/Common.h"
 
 QString GivenText::forButton(QString text)
 {
@@ -9,7 +9,5 @@ QString GivenText::forButton(QString text)
 
 QString GivenText::forTip(const QString &text)
 {
-    if (!Qt::mightBeRichText(text))
-        return text;
-    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+    return Common::PlainTip(text);
 }

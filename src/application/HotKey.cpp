@@ -2,21 +2,9 @@
 
 #include "application/BranchTitle.h"
 #include "toolkit/SearchGrid.h"
+#include "vocabulary/Common.h"
 
 #include <QFontMetrics>
-#include <QTextDocument>
-
-namespace {
-
-/// A tool tip that shows its text as it is.
-QString plainTip(const QString &text)
-{
-    return Qt::mightBeRichText(text)
-               ? QStringLiteral("<qt>") + text.toHtmlEscaped() + QStringLiteral("</qt>")
-               : text;
-}
-
-} // namespace
 
 HotKey::HotKey(QString strKeyName, QString strHotKey, QWidget *parent)
     : QPushButton(SearchGrid::buttonText(shownPart(strKeyName)), parent),
@@ -24,8 +12,8 @@ HotKey::HotKey(QString strKeyName, QString strHotKey, QWidget *parent)
 {
     setCheckable(true);
     setAutoDefault(false);
-    setToolTip(plainTip(shownPart(m_strKeyName) + QStringLiteral(" (") + shownPart(m_strHotKey) +
-                        QStringLiteral(") ")));
+    setToolTip(Common::PlainTip(shownPart(m_strKeyName) + QStringLiteral(" (") +
+                                shownPart(m_strHotKey) + QStringLiteral(") ")));
 }
 
 void HotKey::fit(int width, const QFontMetrics &metrics)

@@ -48,7 +48,7 @@ VantrixKey::~VantrixKey()
 
 VantrixKey::Label VantrixKey::label() const
 {
-    return {m_labelState, m_text, toolTip()};
+    return {m_labelState, m_text, m_labelToolTip};
 }
 
 void VantrixKey::setMapping(ushort keyIdx, const vantrix_key_mapping &mapping)
@@ -109,13 +109,13 @@ void VantrixKey::showLabel(const Label &label)
     m_labelState = label.state;
     m_labelToolTip = label.toolTip;
     setFace(colorSheet(label.state), label.text);
-    setToolTip(label.toolTip);
+    setToolTip(Common::PlainTip(label.toolTip));
 }
 
 void VantrixKey::setLabelToolTip(const QString &toolTip)
 {
     m_labelToolTip = toolTip;
-    setToolTip(toolTip);
+    setToolTip(Common::PlainTip(toolTip));
 }
 
 void VantrixKey::endUpdate()
@@ -206,5 +206,5 @@ void VantrixKey::setFullText(const QString &text)
     m_text = text;
     Common::SetText(this, text);
     if (!m_labelToolTip.isEmpty())
-        setToolTip(m_labelToolTip);
+        setToolTip(Common::PlainTip(m_labelToolTip));
 }

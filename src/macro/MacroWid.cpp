@@ -4,6 +4,7 @@
 #include "interfaces/IVantrixProfileCfg.h"
 #include "toolkit/NarrowText.h"
 #include "toolkit/PanelStyle.h"
+#include "vocabulary/Common.h"
 #include "vocabulary/KeyCodes.h"
 
 #include "ui_MacroUi.h"
@@ -44,7 +45,7 @@ private:
     void updateText()
     {
         setText(m_number + QStringLiteral(" - ") + m_name);
-        setToolTip(text().toHtmlEscaped());
+        setToolTip(Common::PlainTip(text()));
     }
 
     QString m_number;

@@ -11,6 +11,7 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QTextDocument>
 
 #include <set>
 
@@ -31,7 +32,7 @@ void setElidedText(Widget *widget, const QString &text)
     widget->ensurePolished();
     const QString shown = elided(widget, text);
     widget->setText(shown);
-    widget->setToolTip(shown == text ? QString() : text);
+    widget->setToolTip(shown == text ? QString() : Common::PlainTip(text));
 }
 
 /// Directions, whose pictures are arrows.
@@ -68,6 +69,13 @@ void Common::SpecialCharHandle(const QString &in, QString &out)
 void Common::TextWrap(QString &text)
 {
     text.replace(QLatin1Char(' '), QLatin1Char('\n'));
+}
+
+QString Common::PlainTip(const QString &text)
+{
+    if (!Qt::mightBeRichText(text))
+        return text;
+    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
 }
 
 void Common::SetText(QAbstractButton *button, const QString &text)

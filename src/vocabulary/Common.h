@@ -22,8 +22,10 @@ public:
     static void SpecialCharHandle(const QString &in, QString &out);
     /// Every blank becomes a line break.
     static void TextWrap(QString &text);
-    /// Sets the text, elided on the right to the widget's width; the tool tip is the whole text
-    /// when it was elided, else empty.
+    /// A tool tip that shows a text as it is: the text itself, unless Qt would take it for markup.
+    static QString PlainTip(const QString &text);
+    /// Sets the text, elided on the right to the widget's width; the tool tip shows the whole text
+    /// when it was elided, else none.
     static void SetText(QAbstractButton *button, const QString &text);
     static void SetText(QLabel *label, const QString &text);
     /// Lets events run for at least `ms` milliseconds; 0 and less return at once. Slots may

@@ -501,7 +501,7 @@ void tst_ApplicationAdvWid::oddTexts()
     save->click();
     QCOMPARE(spy.at(0), QVariantList({QStringLiteral("CTRL+&"), QStringLiteral("SAVE & CLOSE")}));
     QCOMPARE(leaf(m_page.get(), QStringLiteral("<B>BOLD</B>"))->toolTip(),
-             QStringLiteral("<qt>&lt;B&gt;BOLD&lt;/B&gt; (CTRL+&lt;) </qt>"));
+             QStringLiteral("<span>&lt;B&gt;BOLD&lt;/B&gt; (CTRL+&lt;) </span>"));
     HotKey *const longest = leaf(m_page.get(), QString(100000, QLatin1Char('X')));
     QVERIFY(longest->text().size() <= 400);
     longest->click();

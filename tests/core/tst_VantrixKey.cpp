@@ -51,6 +51,7 @@ private slots:
     void appFunctionTips();
     void iconGoesWithItsRule();
     void labelToolTipStays();
+    void toolTipShowsNamesAsTheyAre();
     void labelAndItsEnd();
     void cutTextHasToolTip();
     void sameSheetIsNotSetAgain();
@@ -273,6 +274,21 @@ void tst_VantrixKey::labelToolTipStays()
     QCOMPARE(m_key->toolTip(), QString("Build all"));
     m_key->showHotKey("F1", "Help");
     QCOMPARE(m_key->toolTip(), QString("Help (F1) "));
+}
+
+void tst_VantrixKey::toolTipShowsNamesAsTheyAre()
+{
+    m_key->showMacro("M3", "Copy & Paste > \"x\"");
+    QCOMPARE(m_key->toolTip(), QString("Copy & Paste > \"x\""));
+    m_key->showMacro("M3", "a<b>c");
+    QCOMPARE(m_key->toolTip(), QString("<span>a&lt;b&gt;c</span>"));
+    m_key->fixSize(90, 60);
+    QCOMPARE(m_key->toolTip(), QString("<span>a&lt;b&gt;c</span>"));
+    QCOMPARE(m_key->label().toolTip, QString("a<b>c"));
+    m_key->setLabelToolTip("<i>");
+    QCOMPARE(m_key->toolTip(), QString("<span>&lt;i&gt;</span>"));
+    m_key->showHotKey("CTRL+B", "<B>BOLD</B>");
+    QCOMPARE(m_key->toolTip(), QString("<span>&lt;B&gt;BOLD&lt;/B&gt; (CTRL+B) </span>"));
 }
 
 void tst_VantrixKey::labelAndItsEnd()

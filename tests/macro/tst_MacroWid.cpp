@@ -48,6 +48,8 @@ private slots:
     void createButton();
     void deletedPanelEmitsNothing();
     void longNamesStayInside();
+    void tipsShowNamesAsTheyAre_data();
+    void tipsShowNamesAsTheyAre();
     void everythingStaysInside_data();
     void everythingStaysInside();
 
@@ -473,10 +475,39 @@ void tst_MacroWid::deletedPanelEmitsNothing()
 
 void tst_MacroWid::longNamesStayInside()
 {
-    Panel panel({QString(300, QLatin1Char('W')), "<b>A</b>"});
+    Panel panel({QString(300, QLatin1Char('W'))});
     QVERIFY(panel.list()->visualItemRect(panel.list()->item(0)).width() <=
             panel.list()->viewport()->width());
-    QCOMPARE(panel.list()->item(1)->toolTip(), QStringLiteral("M2 - &lt;b&gt;A&lt;/b&gt;"));
+}
+
+void tst_MacroWid::tipsShowNamesAsTheyAre_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("tip");
+    QTest::newRow("plain") << "Build all"
+                           << "M1 - Build all";
+    QTest::newRow("ampersand") << "Copy & Paste"
+                               << "M1 - Copy & Paste";
+    QTest::newRow("quotes") << "\"x\" 'y'"
+                            << "M1 - \"x\" 'y'";
+    QTest::newRow("greater") << "a > b"
+                             << "M1 - a > b";
+    QTest::newRow("less") << "a < b"
+                          << "M1 - a < b";
+    QTest::newRow("tag") << "<b>A</b> & \"B\""
+                         << "<span>M1 - &lt;b&gt;A&lt;/b&gt; &amp; &quot;B&quot;</span>";
+    QTest::newRow("entity") << "&lt;"
+                            << "<span>M1 - &amp;lt;</span>";
+}
+
+void tst_MacroWid::tipsShowNamesAsTheyAre()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, tip);
+    Panel panel({name});
+    QCOMPARE(panel.list()->item(0)->toolTip(), tip);
+    panel.widget.renameMacro(name.toStdString(), "other");
+    QCOMPARE(panel.list()->item(0)->toolTip(), QStringLiteral("M1 - other"));
 }
 
 void tst_MacroWid::everythingStaysInside_data()

@@ -21,6 +21,8 @@ private slots:
     void specialCharHandle_data();
     void specialCharHandle();
     void textWrap();
+    void plainTip_data();
+    void plainTip();
     void setTextOfAButton();
     void setTextOfALabel();
     void setTextElidesLineByLine();
@@ -129,6 +131,31 @@ void tst_Common::textWrap()
     QCOMPARE(text, QStringLiteral("A\n\nB"));
 }
 
+void tst_Common::plainTip_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("tip");
+    QTest::newRow("nothing") << ""
+                             << "";
+    QTest::newRow("plain") << "Build all"
+                           << "Build all";
+    QTest::newRow("signs") << "a & b > \"c\" < d"
+                           << "a & b > \"c\" < d";
+    QTest::newRow("legend") << "<\n,    Б"
+                            << "<\n,    Б";
+    QTest::newRow("tag") << "a<b>c & \"d\""
+                         << "<span>a&lt;b&gt;c &amp; &quot;d&quot;</span>";
+    QTest::newRow("entity") << "&lt;"
+                            << "<span>&amp;lt;</span>";
+}
+
+void tst_Common::plainTip()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, tip);
+    QCOMPARE(Common::PlainTip(text), tip);
+}
+
 namespace {
 
 template <typename Widget>
@@ -145,6 +172,11 @@ void compareElision()
     QVERIFY(widget.text().size() < longText.size());
     QVERIFY(longText.startsWith(widget.text().chopped(1).trimmed()));
     QVERIFY(widget.fontMetrics().horizontalAdvance(widget.text()) <= 60);
+
+    const QString tagged = QStringLiteral("<i> A TEXT TOO LONG FOR SIXTY PIXELS");
+    Common::SetText(&widget, tagged);
+    QCOMPARE(widget.toolTip(),
+             QStringLiteral("<span>&lt;i&gt; A TEXT TOO LONG FOR SIXTY PIXELS</span>"));
 
     Common::SetText(&widget, shortText);
     QCOMPARE(widget.text(), shortText);

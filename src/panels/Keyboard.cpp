@@ -26,6 +26,13 @@ constexpr int LogoFiller = 0; ///< in the rows of the main block
 constexpr double TallKey = 2.3;
 constexpr double WideKey = 1.25;
 
+constexpr std::array<QSize, KeyboardLayout::Count> DesignSizes = {{
+    QSize(818, 177), // ANSI
+    QSize(832, 181), // ISO
+    QSize(814, 181), // BR
+    QSize(855, 181), // JP
+}};
+
 /// Width and height of a key in units, by KeyboardLayout. Keys without a row are squares.
 struct KeyFactors
 {
@@ -152,6 +159,7 @@ Keyboard::Keyboard(int layout, int language, QWidget *parent)
       m_keypadFiller(makeFiller(QStringLiteral("key_1"))),
       m_logo(makeFiller(QStringLiteral("key_2")))
 {
+    resize(DesignSizes[std::size_t(layout)]);
     m_logo->setStyleSheet(QStringLiteral(
         "background:transparent;border:1px solid white;border-radius:2px;min-height:1px;"));
     m_logo->setIcon(QIcon(QStringLiteral(":/VantrixMap/logo.png")));

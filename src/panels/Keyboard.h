@@ -24,7 +24,8 @@ class Keyboard : public QWidget
     Q_OBJECT
 
 public:
-    /// `layout` is a KeyboardLayout, `language` an index of LanguageIndex.
+    /// `layout` is a KeyboardLayout, `language` an index of LanguageIndex. Begins in the size that
+    /// the layout is drawn for.
     Keyboard(int layout, int language, QWidget *parent = nullptr);
     ~Keyboard() override;
 

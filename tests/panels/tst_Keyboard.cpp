@@ -197,6 +197,8 @@ private slots:
     void initTestCase() { registerRecordTypes(); }
     void layouts_data();
     void layouts();
+    void designSize_data();
+    void designSize();
     void keysOfALayout_data() { layouts_data(); }
     void keysOfALayout();
     void placesOfTheKeys_data() { layouts_data(); }
@@ -261,6 +263,30 @@ void tst_Keyboard::layouts()
     QCOMPARE(margins.left(), 9);
     QCOMPARE(margins.top(), 6);
     QCOMPARE(margins.bottom(), 6);
+}
+
+void tst_Keyboard::designSize_data()
+{
+    QTest::addColumn<int>("layout");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("ANSI") << Ansi << QSize(818, 177);
+    QTest::newRow("ISO") << Iso << QSize(832, 181);
+    QTest::newRow("BR") << Br << QSize(814, 181);
+    QTest::newRow("JP") << Jp << QSize(855, 181);
+}
+
+void tst_Keyboard::designSize()
+{
+    QFETCH(int, layout);
+    QFETCH(QSize, size);
+    Keyboard keyboard(layout, English);
+    QCOMPARE(keyboard.size(), size);
+    keyboard.show();
+    QCOMPARE(keyboard.size(), size);
+    for (const int scanCode : keysOf(layout)) {
+        const QRect place = rectIn(&keyboard, keyOf(&keyboard, scanCode));
+        QVERIFY2(keyboard.rect().contains(place), qPrintable(nameOf(scanCode)));
+    }
 }
 
 void tst_Keyboard::keysOfALayout()

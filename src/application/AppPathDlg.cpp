@@ -4,6 +4,7 @@
 #include "interfaces/CfgFile.h"
 #include "interfaces/IVantrixProfileCfg.h"
 #include "vocabulary/AppTables.h"
+#include "vocabulary/Common.h"
 
 #include "ui_AppPathDlg.h"
 
@@ -34,6 +35,8 @@ AppPathDlg::AppPathDlg(int appType, QWidget *parent)
     m_ui->setupUi(this);
     m_ui->m_typeIcon->setPixmap(applicationPicture(appType));
     m_ui->m_typeDesc->setText(appTypeText(appType));
+    connect(m_ui->m_path, &QLineEdit::textChanged, this,
+            [this](const QString &path) { m_ui->m_path->setToolTip(Common::PlainTip(path)); });
     m_ui->m_path->setText(storedPath(appType));
     connect(m_ui->m_dir, &QToolButton::clicked, this, &AppPathDlg::slotPathChanged);
     connect(m_ui->m_close, &QToolButton::clicked, this, &AppPathDlg::accept);

@@ -35,6 +35,8 @@ private slots:
     void showsTheApplication_data();
     void showsTheApplication();
     void showsTheStoredPath();
+    void pathHasTheRoomOfItsRow();
+    void tipShowsTheWholePath();
     void asksForAFile();
     void emptyAnswerKeepsThePath();
     void applyStores();
@@ -148,6 +150,34 @@ void tst_AppPathDlg::showsTheStoredPath()
     const AppPathDlg dialog(2, nullptr);
     QCOMPARE(child<QLineEdit>(&dialog, "m_path")->text(), newPath);
     QCOMPARE(m_store->setAppPathCount, 1);
+}
+
+void tst_AppPathDlg::pathHasTheRoomOfItsRow()
+{
+    for (const int width : {435, 900}) {
+        AppPathDlg dialog(0, nullptr);
+        dialog.resize(width, 176);
+        dialog.show();
+        const auto *const row = child<QHBoxLayout>(&dialog, "horizontalLayout");
+        QCOMPARE(row->count(), 5);
+        QCOMPARE(row->itemAt(0)->geometry().width(), 15);
+        QCOMPARE(row->itemAt(4)->geometry().width(), 20);
+        const auto *const icon = child<QLabel>(&dialog, "m_typeIcon");
+        QCOMPARE(icon->width(), icon->sizeHint().width());
+        QCOMPARE(child<QToolButton>(&dialog, "m_dir")->width(), 40);
+    }
+}
+
+void tst_AppPathDlg::tipShowsTheWholePath()
+{
+    m_store->setAppPath(0, oldPath);
+    AppPathDlg dialog(0, nullptr);
+    dialog.show();
+    const auto *const path = child<QLineEdit>(&dialog, "m_path");
+    QCOMPARE(path->toolTip(), oldPath);
+    Modal::setAnswerer([](const ModalPrompt &) { return QStringLiteral("C:/a<b>/c & d.exe"); });
+    clickOn(child<QToolButton>(&dialog, "m_dir"));
+    QCOMPARE(path->toolTip(), QStringLiteral("<span>C:/a&lt;b&gt;/c &amp; d.exe</span>"));
 }
 
 void tst_AppPathDlg::asksForAFile()

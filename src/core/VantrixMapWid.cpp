@@ -68,6 +68,7 @@ struct VantrixMapWid::Private : Ui::VantrixMapUi
 
 VantrixMapWid::VantrixMapWid(int iOwner, QWidget *parent) : QWidget(parent), m_data(new Private)
 {
+    registerRecordTypes();
     m_data->setupUi(this);
     m_data->verticalLayout_2->setSizeConstraint(QLayout::SetNoConstraint);
     m_data->iOwner = iOwner;

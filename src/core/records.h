@@ -270,8 +270,8 @@ char *toString(const vantrix_extended_key &record);
 char *toString(const vantrix_app_assign &record);
 char *toString(const vantrix_hotkey_assign &record);
 
-/// Registers every record, and the maps of them that signals carry, as meta types. Safe to call
-/// more than once.
+/// Registers every record, and the maps of them that signals carry, as meta types. A page does so
+/// when it is made; only who uses the records without a page has to. More than once does no harm.
 void registerRecordTypes();
 
 Q_DECLARE_METATYPE(vantrix_presso_digital)

@@ -25,7 +25,6 @@ class tst_AdvancedPage : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { registerRecordTypes(); }
     void init();
     void cleanup();
 

@@ -29,7 +29,6 @@ class tst_PageLife : public QObject, PageFixture
     Q_OBJECT
 
 private slots:
-    void initTestCase() { registerRecordTypes(); }
     void init() { open(); }
     void cleanup() { close(); }
 

@@ -16,7 +16,6 @@ class tst_PageShowing : public QObject, PageFixture
     Q_OBJECT
 
 private slots:
-    void initTestCase() { registerRecordTypes(); }
     void init() { open(); }
     void cleanup() { close(); }
 

@@ -28,7 +28,6 @@ class tst_VantrixMapWid : public QObject, PageFixture
     Q_OBJECT
 
 private slots:
-    void initTestCase() { registerRecordTypes(); }
     void init() { open(); }
     void cleanup() { close(); }
 
@@ -78,6 +77,7 @@ private slots:
     void winShortcutKeys();
     void wholeRoadInSimpleMode();
     void boardTellsThePanels();
+    void recordsAreMetaTypes();
     void panelsTellTheBoard();
     void boardTellsTheMenu();
     void menuTellsTheBoard();
@@ -934,6 +934,15 @@ void tst_VantrixMapWid::pageMayDieInAWarning()
     });
     m_page->updateUi(2);
     QVERIFY(!m_page);
+}
+
+void tst_VantrixMapWid::recordsAreMetaTypes()
+{
+    for (const char *const name :
+         {"vantrix_presso_digital", "vantrix_key_mapping", "vantrix_macro_record",
+          "vantrix_shortcut_assign", "vantrix_extended_key", "vantrix_app_assign",
+          "vantrix_hotkey_assign", "std::map<uchar,uchar>", "std::string"})
+        QVERIFY2(QMetaType::type(name) != QMetaType::UnknownType, name);
 }
 
 VANTRIX_TEST_MAIN(tst_VantrixMapWid)

@@ -25,7 +25,6 @@ class tst_DualRoundTrip : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { registerRecordTypes(); }
     void init();
     void cleanup();
     void everyDepth_data();

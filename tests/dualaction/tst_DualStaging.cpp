@@ -41,7 +41,6 @@ class tst_DualStaging : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { registerRecordTypes(); }
     void init();
     void cleanup();
     void stagedKeysLookStaged();

@@ -14,7 +14,6 @@ class tst_Translations : public QObject, PageFixture
     Q_OBJECT
 
 private slots:
-    void initTestCase() { registerRecordTypes(); }
     void cleanup();
     void files_data();
     void files();

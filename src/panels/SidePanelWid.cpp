@@ -33,6 +33,7 @@ SidePanelWid::SidePanelWid(QWidget *parent)
         m_ui->m_layout->addWidget(new PanelWid(mainNumber, m_mains, m_presets, this));
     connect(m_mains, qOverload<QAbstractButton *, bool>(&QButtonGroup::buttonToggled), this,
             &SidePanelWid::makeRoom);
+    makeRoom();
     connect(m_presets, &QButtonGroup::idClicked, this, &SidePanelWid::slotPanelBtnClicked);
 }
 
@@ -43,11 +44,14 @@ void SidePanelWid::setCurrentPanel(int keyboardType)
     m_presets->setButtonChecked(keyboardType, true);
 }
 
-/// What is open needs its room, however low the list was.
+/// What is open needs its room, however low the list was; what is below the groups belongs to
+/// those whom the list floats over.
 void SidePanelWid::makeRoom()
 {
     layout()->activate();
-    setMinimumHeight(std::max(FoldedHeight, layout()->totalMinimumSize().height()));
+    const int height = layout()->totalMinimumSize().height();
+    setMinimumHeight(std::max(FoldedHeight, height));
+    setMask(QRegion(0, 0, QWIDGETSIZE_MAX, height));
 }
 
 void SidePanelWid::focusOutEvent(QFocusEvent *) {}

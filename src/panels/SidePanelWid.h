@@ -10,7 +10,7 @@ class SidePanelUi;
 }
 
 /// The floating list of the nine presets, in three folding groups of which at most one is open. It
-/// gets no lower than what is open needs.
+/// gets no lower than what is open needs, and clicks below that pass through.
 class SidePanelWid : public QWidget
 {
     Q_OBJECT

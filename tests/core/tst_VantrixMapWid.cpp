@@ -57,6 +57,8 @@ private slots:
     void sidePanelChecksTheStoredPreset();
     void sidePanelRule_data();
     void sidePanelRule();
+    void foldedSidePanelLeavesThePressureSwitch_data();
+    void foldedSidePanelLeavesThePressureSwitch();
     void menuRule();
     void captureRule();
     void captureEndsWithApply();
@@ -477,6 +479,26 @@ void tst_VantrixMapWid::sidePanelRule()
     click("m_simple");
     group->button(1)->click();
     QVERIFY(side->isHidden());
+}
+
+void tst_VantrixMapWid::foldedSidePanelLeavesThePressureSwitch_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize size : {QSize(784, 560), QSize(700, 500), QSize(640, 480), QSize(500, 400)})
+        QTest::addRow("%d by %d", size.width(), size.height()) << size;
+}
+
+void tst_VantrixMapWid::foldedSidePanelLeavesThePressureSwitch()
+{
+    QFETCH(QSize, size);
+    m_page->resize(size);
+    find<QWidget>("m_inputWid")->findChild<QButtonGroup *>()->button(10)->click();
+    QCoreApplication::processEvents();
+    for (const char *const name : {"m_on", "m_off"}) {
+        auto *const button = find<QPushButton>(name);
+        const QPoint middle = button->mapTo(m_page, button->rect().center());
+        QCOMPARE(m_page->childAt(middle), button);
+    }
 }
 
 void tst_VantrixMapWid::menuRule()

@@ -62,6 +62,7 @@ private slots:
     void groupsNeverApply();
     void oneGroupIsOpen();
     void openGroupHasItsRoom();
+    void clicksBelowTheGroupsPass();
     void clicksOnTheNameReachTheButton();
     void losingTheFocusLeavesItOpen();
 };
@@ -277,6 +278,30 @@ void tst_SidePanelWid::openGroupHasItsRoom()
     QVERIFY(bottom < panel.height());
     clickOn(mainOf(folders[1]));
     QCOMPARE(panel.minimumHeight(), 90);
+}
+
+void tst_SidePanelWid::clicksBelowTheGroupsPass()
+{
+    QWidget page;
+    page.resize(300, 300);
+    QWidget below(&page);
+    below.resize(300, 300);
+    SidePanelWid panel(&page);
+    page.show();
+    const auto bottomIsAt = [&](int height) {
+        QVERIFY(panel.isAncestorOf(page.childAt(100, height - 1)));
+        for (int y = height; y < 300; ++y)
+            QCOMPARE(page.childAt(100, y), &below);
+    };
+    // Three heads of 25, and under an open one its three presets of 26.
+    bottomIsAt(77);
+    const auto folders = foldersOf(panel);
+    clickOn(mainOf(folders[2]));
+    QCoreApplication::processEvents();
+    bottomIsAt(155);
+    clickOn(mainOf(folders[2]));
+    QCoreApplication::processEvents();
+    bottomIsAt(77);
 }
 
 void tst_SidePanelWid::clicksOnTheNameReachTheButton()

@@ -1,5 +1,6 @@
 #include "support/TestMain.h"
 
+#include "interfaces/SheetWarnings.h"
 #include "support/QtUnderAsan.h"
 
 #include <QApplication>
@@ -27,10 +28,7 @@ void setHome(const QString &home)
 bool isAnnounced(const QByteArray &line)
 {
     return line.contains(" This plugin does not support ") ||
-           line.contains(" Could not parse stylesheet of object Keyboard(") ||
-           line.contains("Specified color without alpha value but alpha given: 'rgb 0,0,0,200'") ||
-           line.contains(
-               "Specified color without alpha value but alpha given: 'rgb 255,255,255,50'");
+           isSheetWarning(QString::fromUtf8(line));
 }
 
 /// Number of warnings in a log of Qt Test, each told to the person who runs the test.

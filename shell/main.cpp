@@ -1,8 +1,10 @@
 #include "host/HostServices.h"
+#include "interfaces/SheetWarnings.h"
 #include "shell/Headless.h"
 #include "shell/Language.h"
 #include "shell/MainWindow.h"
 #include "shell/ShellStyle.h"
+#include "vocabulary/KeyLegends.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -62,6 +64,44 @@ bool choosePlatform(int argc, char **argv)
     return isHeadless;
 }
 
+/// Leaves with one line: what is wrong with an option's value, and what it may be.
+[[noreturn]] void refuse(const QString &value, const QString &reason)
+{
+    QTextStream(stderr) << "vantrix: \"" << value << "\" " << reason << '\n';
+    std::exit(2);
+}
+
+/// From 0; -1 without the option.
+int readProfile(const QCommandLineParser &parser)
+{
+    if (!parser.isSet(QStringLiteral("profile")))
+        return -1;
+    const QString value = parser.value(QStringLiteral("profile"));
+    bool isNumber = false;
+    const int number = value.toInt(&isNumber);
+    if (!isNumber || number < 1 || number > ProfileCount)
+        refuse(value, QStringLiteral("is no profile: --profile takes a number from 1 to %1.")
+                          .arg(ProfileCount));
+    return number - 1;
+}
+
+/// By the numbers of `LanguageIndex`; -1 without the option.
+int readLanguage(const QCommandLineParser &parser)
+{
+    if (!parser.isSet(QStringLiteral("language")))
+        return -1;
+    const QString value = parser.value(QStringLiteral("language"));
+    const int language = Language::parse(value);
+    if (language >= 0)
+        return language;
+    QStringList names;
+    for (int i = 0; i < LanguageCount; ++i)
+        names << languageName(i);
+    refuse(value, QStringLiteral("is no language: --language takes %1, or a number from 0 to %2.")
+                      .arg(names.join(QStringLiteral(", ")))
+                      .arg(LanguageCount - 1));
+}
+
 Options readOptions(bool isHeadless)
 {
     QCommandLineParser parser;
@@ -87,25 +127,15 @@ Options readOptions(bool isHeadless)
     options.isPrinting = parser.isSet(QStringLiteral("print-profile"));
     options.screenshot = parser.value(QStringLiteral("screenshot"));
     options.dataFolder = parser.value(QStringLiteral("data"));
-    const QString language = parser.value(QStringLiteral("language"));
-    options.language = Language::parse(language);
-    const QString profile = parser.value(QStringLiteral("profile"));
-    if (!profile.isEmpty())
-        options.profile = profile.toInt() - 1;
-    const bool isBadProfile =
-        !profile.isEmpty() && (options.profile < 0 || options.profile >= ProfileCount);
-    if (isBadProfile || (!language.isEmpty() && options.language < 0)) {
-        QTextStream(stderr) << parser.helpText();
-        std::exit(2);
-    }
+    options.profile = readProfile(parser);
+    options.language = readLanguage(parser);
     return options;
 }
 
 /// Passes on what Qt has to say, except for what it says about sheets whose text is fixed.
 void writeMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (text.startsWith(QLatin1String("QCssParser::parseColorValue: Specified color without")) ||
-        text.startsWith(QLatin1String("Could not parse stylesheet of object Keyboard(")) ||
+    if (isSheetWarning(text) ||
         text.startsWith(QLatin1String("This plugin does not support propagateSizeHints")))
         return;
     QTextStream(stderr) << qFormatLogMessage(type, context, text) << '\n';

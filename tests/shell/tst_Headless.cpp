@@ -176,20 +176,38 @@ void tst_Headless::brokenStore()
 void tst_Headless::badOptions_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("profile 0") << QStringList({"--headless", "--profile", "0"});
-    QTest::newRow("profile 25") << QStringList({"--headless", "--profile", "25"});
-    QTest::newRow("profile x") << QStringList({"--headless", "--profile", "x"});
-    QTest::newRow("language") << QStringList({"--headless", "--language", "Elvish"});
-    QTest::newRow("unknown") << QStringList({"--headless", "--nonsense"});
+    QTest::addColumn<QByteArray>("error");
+    const QByteArray profiles = " is no profile: --profile takes a number from 1 to 24.\n";
+    const QByteArray languages =
+        " is no language: --language takes ChineseSimplified, ChineseTraditional, English, French, "
+        "German, Italian, Japanese, Korean, Malay, Portuguese, Russian, Spanish, Thai, Turkish, "
+        "Vietnamese, or a number from 0 to 14.\n";
+    for (const char *value : {"0", "25", "-1", "x", "7x", ""})
+        QTest::addRow("profile %s", value)
+            << QStringList({"--headless", QStringLiteral("--profile=%1").arg(value)})
+            << '"' + QByteArray(value) + '"' + profiles;
+    for (const char *value : {"Elvish", "15", "-1", "%1", ""})
+        QTest::addRow("language %s", value)
+            << QStringList({"--headless", QStringLiteral("--language=") + value})
+            << '"' + QByteArray(value) + '"' + languages;
+    QTest::newRow("unknown") << QStringList({"--headless", "--nonsense"})
+                             << QByteArray("Unknown option 'nonsense'.\n");
 }
 
+/// One line says what is wrong and what is allowed.
 void tst_Headless::badOptions()
 {
     QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, error);
+    // Without a folder of this kind Qt has a line of its own to say.
+    const QTemporaryDir runtime;
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
     int exitCode = 0;
-    const QByteArray text = run(arguments, nullptr, &exitCode);
+    QByteArray errors;
+    const QByteArray text = run(arguments, &errors, &exitCode);
     QVERIFY(exitCode > 0);
     QCOMPARE(text, QByteArray());
+    QCOMPARE(errors, "vantrix: " + error);
 }
 
 VANTRIX_TEST_MAIN(tst_Headless)

@@ -15,14 +15,7 @@ void HostEnvironment::setLanguage(int language)
 
 QWindow *HostEnvironment::getMainWindow()
 {
-    if (m_window || !m_widget)
-        return m_window;
-    return m_widget->window()->windowHandle();
-}
-
-void HostEnvironment::setMainWindow(QWindow *window)
-{
-    m_window = window;
+    return m_widget ? m_widget->window()->windowHandle() : nullptr;
 }
 
 QWidget *HostEnvironment::getMainWidget()

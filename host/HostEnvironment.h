@@ -15,15 +15,13 @@ public:
     int getLanguage() override;
     void setLanguage(int language);
 
-    /// The window of the main widget, unless another was set; null while there is none.
+    /// The window of the main widget; null while there is none.
     QWindow *getMainWindow() override;
-    void setMainWindow(QWindow *window);
     QWidget *getMainWidget() override;
     /// Not owned; a widget that is gone is null again.
     void setMainWidget(QWidget *widget);
 
 private:
     int m_language = 0;
-    QPointer<QWindow> m_window;
     QPointer<QWidget> m_widget;
 };

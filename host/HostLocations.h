@@ -30,8 +30,7 @@ public:
     explicit HostLocations(const QString &dataFolder = QString());
 
     const QString &dataFolder() const { return m_data; }
-    /// Empty if there is none.
-    const QString &shareFolder() const { return m_share; }
+    /// Another share folder than the program's; empty for none.
     void setShareFolder(const QString &folder) { m_share = folder; }
     QString storeFile() const;
     QString hotKeysFolder(const ProfileStore &store) const;

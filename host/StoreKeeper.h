@@ -34,7 +34,6 @@ public:
     /// Makes the last good copy, then lets go of file and lock. Only after a successful save.
     void close();
 
-    bool isWriter() const { return m_access == Writer; }
     bool isSecondReader() const { return m_access == SecondReader; }
     /// False while changes wait for a disk that takes them.
     bool isSaved() const { return m_saved; }

@@ -113,9 +113,6 @@ void tst_HostServices::mainWindowOfTheWidget()
         QVERIFY(!environment.getMainWindow());
         window.winId();
         QVERIFY(environment.getMainWindow() == window.windowHandle());
-        QWindow other;
-        environment.setMainWindow(&other);
-        QVERIFY(environment.getMainWindow() == &other);
     }
     QVERIFY(!environment.getMainWidget());
     QVERIFY(!environment.getMainWindow());

@@ -2,6 +2,7 @@
 
 #include "core/records.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -17,6 +18,10 @@ class ActionAssignUi;
 /// `openOverlay` and closes only with BACK or APPLY. While it is open on the keyboard page it
 /// holds the keyboard, as KeyboardWid tells. It is a child of the main widget and may
 /// be destroyed before its owner.
+///
+/// While it is open, what it covers cannot be worked by keyboard either: it takes the focus and
+/// gives it back when it closes, Tab goes around among its own widgets and those in the hole, and
+/// the shortcuts of the window rest.
 class ActionAssignWid : public QWidget
 {
     Q_OBJECT
@@ -34,11 +39,18 @@ public:
     /// Hides the layer and lets the keyboard go, without a signal.
     void closeOverlay();
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 signals:
     /// A function was picked or, with code 255, taken back. Each pick is passed on at once.
     void sigDualActionChanged(int actionNo, vantrix_key_mapping key);
     void sigDualActionBack();
     void sigDualActionApply();
+
+protected:
+    bool focusNextPrevChild(bool next) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private slots:
     void slotDualActionChanged(vantrix_key_mapping key);
@@ -46,6 +58,11 @@ private slots:
     void slotApply();
 
 private:
+    bool holdsFocus() const;
+    bool isStop(const QWidget *widget) const;
+    QWidget *nextStop(QWidget *from, bool next) const;
+
     const std::unique_ptr<Ui::ActionAssignUi> m_ui;
     int m_actionNo = 0;
+    QPointer<QWidget> m_focusedBefore; ///< had the focus when the overlay opened
 };

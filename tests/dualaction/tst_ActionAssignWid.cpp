@@ -9,12 +9,15 @@
 #include "support/Gestures.h"
 #include "support/TestMain.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalSpy>
 #include <QStackedWidget>
+#include <QWindow>
 
 #include <memory>
 
@@ -45,9 +48,15 @@ private slots:
     void destroyingLetsTheKeyboardGo();
     void resetUnchecksAllPages();
     void resetKeepsItOpen();
+    void takesTheFocusAndGivesItBack();
+    void focusInTheHoleStays();
+    void tabStaysAboveTheVeil_data();
+    void tabStaysAboveTheVeil();
+    void shortcutsOfTheWindowRest();
 
 private:
     ActionAssignWid *overlay() { return m_overlay; }
+    QPushButton *buttonBelow(const QRect &place);
     bool isCapturing() const;
 
     std::unique_ptr<FakeEnvironment> m_environment;
@@ -364,6 +373,99 @@ void tst_ActionAssignWid::resetKeepsItOpen()
     QSignalSpy spy(overlay(), &ActionAssignWid::sigDualActionChanged);
     clickOn(child<QPushButton>(overlay(), "btn_30"));
     QCOMPARE(spy.last().at(0).toInt(), 2);
+}
+
+QPushButton *tst_ActionAssignWid::buttonBelow(const QRect &place)
+{
+    auto *const button = new QPushButton(m_main.get());
+    button->setGeometry(place);
+    button->stackUnder(overlay());
+    button->show();
+    return button;
+}
+
+void tst_ActionAssignWid::takesTheFocusAndGivesItBack()
+{
+    QPushButton *const veiled = buttonBelow({10, 10, 80, 30});
+    veiled->setFocus();
+    for (const int input : {1, 2}) {
+        overlay()->openOverlay(1, input, QStringLiteral("ACTION  1"));
+        const QWidget *const page = child<QStackedWidget>(overlay(), "m_map")->currentWidget();
+        QVERIFY(page->isAncestorOf(QApplication::focusWidget()));
+        clickOn(child<QPushButton>(overlay(), input == 1 ? "m_back" : "m_apply"));
+        QCOMPARE(QApplication::focusWidget(), veiled);
+    }
+    overlay()->openOverlay(1, 1, QStringLiteral("ACTION  1"));
+    overlay()->closeOverlay();
+    QCOMPARE(QApplication::focusWidget(), veiled);
+}
+
+void tst_ActionAssignWid::focusInTheHoleStays()
+{
+    buttonBelow({10, 10, 80, 30})->setFocus();
+    QPushButton *const key = buttonBelow({300, 200, 40, 40});
+    overlay()->setMask(QRegion(overlay()->rect()) - QRect(280, 180, 200, 200));
+    overlay()->openOverlay(1, 1, QStringLiteral("ACTION  1"));
+    key->setFocus();
+    overlay()->closeOverlay();
+    QCOMPARE(QApplication::focusWidget(), key);
+}
+
+void tst_ActionAssignWid::tabStaysAboveTheVeil_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("forth") << Qt::Key_Tab;
+    QTest::newRow("back") << Qt::Key_Backtab;
+}
+
+/// The page, what the hole leaves free, BACK and APPLY; around and around.
+void tst_ActionAssignWid::tabStaysAboveTheVeil()
+{
+    QFETCH(Qt::Key, key);
+    QPushButton *const veiled = buttonBelow({10, 10, 80, 30});
+    QPushButton *const free = buttonBelow({300, 200, 40, 40});
+    QPushButton *const hidden = buttonBelow({350, 200, 40, 40});
+    hidden->hide();
+    QPushButton *const disabled = buttonBelow({400, 200, 40, 40});
+    disabled->setEnabled(false);
+    veiled->setFocus();
+    overlay()->setMask(QRegion(overlay()->rect()) - QRect(280, 180, 200, 200));
+    overlay()->openOverlay(1, 1, QStringLiteral("ACTION  1"));
+    QWidget *const page = child<MouseWid>(overlay(), "m_mouse");
+    QStringList stops;
+    for (int i = 0; i < 8; ++i) {
+        const QWidget *const at = QApplication::focusWidget();
+        stops << (page->isAncestorOf(at) ? QStringLiteral("page")
+                  : at == free           ? QStringLiteral("free")
+                  : at == veiled         ? QStringLiteral("veiled")
+                                         : at->objectName());
+        QTest::keyClick(m_main->windowHandle(), key);
+    }
+    const QStringList forth = {"page", "free", "m_back", "m_apply",
+                               "page", "free", "m_back", "m_apply"};
+    const QStringList back = {"page", "m_apply", "m_back", "free",
+                              "page", "m_apply", "m_back", "free"};
+    QCOMPARE(stops, key == Qt::Key_Tab ? forth : back);
+}
+
+/// They would change what lies below, the selected key included.
+void tst_ActionAssignWid::shortcutsOfTheWindowRest()
+{
+    QPushButton *const free = buttonBelow({300, 200, 40, 40});
+    QShortcut undo(QKeySequence(Qt::CTRL + Qt::Key_Z), m_main.get());
+    QSignalSpy spy(&undo, &QShortcut::activated);
+    const auto press = [this] {
+        QTest::keyClick(m_main->windowHandle(), Qt::Key_Z, Qt::ControlModifier);
+    };
+    overlay()->setMask(QRegion(overlay()->rect()) - QRect(280, 180, 200, 200));
+    overlay()->openOverlay(1, 1, QStringLiteral("ACTION  1"));
+    press();
+    free->setFocus();
+    press();
+    QCOMPARE(spy.count(), 0);
+    clickOn(child<QPushButton>(overlay(), "m_back"));
+    press();
+    QCOMPARE(spy.count(), 1);
 }
 
 VANTRIX_TEST_MAIN(tst_ActionAssignWid)

@@ -8,6 +8,7 @@
 #include "support/Gestures.h"
 #include "support/TestMain.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -26,6 +27,7 @@ private slots:
     void bothActionsReachTheDevice();
     void backAndResize();
     void leavingTheMappingView();
+    void theVeilHoldsForTheKeyboard();
 
 private:
     QPushButton *key(int keyIdx)
@@ -36,6 +38,7 @@ private:
     void open(int number, int input);
     void closeWith(const char *button);
     bool isHoleAroundTheKeys();
+    void tabTo(const QString &name);
     vantrix_key_mapping stored(int keyIdx)
     {
         return m_services->store().state().mapping(0, 0, keyIdx);
@@ -172,6 +175,39 @@ void tst_DualRoad::leavingTheMappingView()
     QVERIFY(!overlay()->isVisible());
     m_window->mappingView()->show();
     QVERIFY(!overlay()->isVisible());
+}
+
+/// Goes on with Tab, which leads to the overlay's widgets and the pad's keys alone.
+void tst_DualRoad::tabTo(const QString &name)
+{
+    QString at;
+    for (int i = 0; i < 8 && at != name; ++i) {
+        XGestures::key(QStringLiteral("Tab"));
+        const QWidget *const focused = QApplication::focusWidget();
+        at = focused ? focused->objectName() : QString();
+        QVERIFY2(overlay()->isAncestorOf(focused) || at.startsWith(QLatin1String("key_")),
+                 qPrintable(at));
+    }
+    QCOMPARE(at, name);
+}
+
+/// An undo of something else would take what is staged along.
+void tst_DualRoad::theVeilHoldsForTheKeyboard()
+{
+    m_services->store().setProfileName(0, 0, QStringLiteral("renamed"));
+    XGestures::click(key(7));
+    open(1, 1);
+    XGestures::key(QStringLiteral("space"));
+    QCOMPARE(key(7)->text(), QStringLiteral("LEFT\nCLICK"));
+    XGestures::key(QStringLiteral("ctrl+z"));
+    QVERIFY(overlay()->isVisible());
+    QCOMPARE(m_services->store().state().profileName(0, 0), QStringLiteral("renamed"));
+    tabTo(QStringLiteral("m_back"));
+    tabTo(QStringLiteral("m_apply"));
+    XGestures::key(QStringLiteral("space"));
+    QVERIFY(!overlay()->isVisible());
+    QCOMPARE(int(stored(7).type), 3);
+    QCOMPARE(ushort(stored(7).digital.firstAction), ushort(496));
 }
 
 VANTRIX_TEST_MAIN(tst_DualRoad)

@@ -235,15 +235,22 @@ bool MappingView::eventFilter(QObject *watched, QEvent *event)
            isStrayRelease(static_cast<QKeyEvent *>(event));
 }
 
-/// A key that went down in a dialog or a menu and comes up over the page was not meant for it.
+/// A key that went down in a dialog or a menu and comes up over the page was not meant for it, and
+/// neither was one for the key of the pad that has been selected meanwhile.
 bool MappingView::isStrayRelease(const QKeyEvent *event)
 {
+    if (event->isAutoRepeat()) // the page takes none
+        return false;
     const quint32 scanCode = event->nativeScanCode();
+    const int selected = m_context.store().getCurrentKey(m_context.owner(), m_context.profile());
     if (event->type() == QEvent::KeyPress) {
-        m_pressed.insert(scanCode);
+        m_pressed[scanCode] = selected;
         return false;
     }
-    if (scanCode == 0 || event->key() == Qt::Key_Print) // some systems tell no press of it
-        return false;
-    return m_pressed.erase(scanCode) == 0;
+    const auto pressed = m_pressed.find(scanCode);
+    const bool isMeant = pressed != m_pressed.end() && pressed->second == selected;
+    m_pressed.erase(scanCode);
+    // Some systems tell no press of it.
+    const bool isReleaseOnly = scanCode == 0 || event->key() == Qt::Key_Print;
+    return !isMeant && !isReleaseOnly;
 }

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <map>
+
 class KeyMarks;
 class QKeyEvent;
 class VantrixMapWid;
@@ -60,7 +62,8 @@ private:
     KeyMarks *m_marks = nullptr;
     QStringList m_toldMacros; ///< macros the page knows, in its order
     std::set<std::pair<int, int>> m_marked;
-    std::set<quint32> m_pressed; ///< scan codes of keys that went down over the page
+    /// Scan codes of keys that went down over the page, and the pad's key that was selected.
+    std::map<quint32, int> m_pressed;
     int m_showCount = 0;
     bool m_isCaptureAllowed = true;
     bool m_isFocusInside = true;

@@ -59,6 +59,8 @@ private slots:
     void captureCanBeForbidden();
     void captureKeepsShortcutsOut();
     void releasesOfOtherWindowsAreNotTaken();
+    void pressForOneKeyIsNotTakenByAnother();
+    void longPressIsTakenOnce();
     void captureEndsElsewhere();
     void reopening();
     void reopeningWithNothingToApply();
@@ -594,6 +596,58 @@ void tst_MainWindow::releasesOfOtherWindowsAreNotTaken()
         clickOn(key(8));
         clickOn(key(7));
     }
+}
+
+void tst_MainWindow::pressForOneKeyIsNotTakenByAnother()
+{
+    clickOn(key(7));
+    QWidget *const capturing = m_shell->services.keyCapture().capturing();
+    QVERIFY(capturing);
+    sendNativeKey(capturing, QEvent::KeyPress, 0x1D, 0x11); // Ctrl
+    clickOn(key(8));
+    QCOMPARE(m_shell->services.keyCapture().capturing(), capturing);
+    sendNativeKey(capturing, QEvent::KeyRelease, 0x1D, 0x11);
+    m_shell->store().flush();
+    QCOMPARE(key(7)->text(), QStringLiteral("W"));
+    QCOMPARE(key(8)->text(), QStringLiteral("E"));
+    sendNativeKey(capturing, QEvent::KeyPress, 0x1D, 0x11);
+    sendNativeKey(capturing, QEvent::KeyRelease, 0x1D, 0x11);
+    m_shell->store().flush();
+    QCOMPARE(key(7)->text(), QStringLiteral("W"));
+    QVERIFY(key(8)->text().startsWith(QLatin1String("L_C")));
+}
+
+void tst_MainWindow::longPressIsTakenOnce()
+{
+    clickOn(key(7));
+    QWidget *const capturing = m_shell->services.keyCapture().capturing();
+    const auto send = [capturing](QEvent::Type type, bool isRepeat) {
+        sendNativeKey(capturing, type, 0x30, 0x42, isRepeat);
+    };
+    const auto repeat = [&send] {
+        send(QEvent::KeyRelease, true);
+        send(QEvent::KeyPress, true);
+    };
+    // Went down in a dialog and is held over the page.
+    repeat();
+    send(QEvent::KeyRelease, false);
+    m_shell->store().flush();
+    QCOMPARE(key(7)->text(), QStringLiteral("W"));
+    // Went down here, and is still down when another key is selected.
+    send(QEvent::KeyPress, false);
+    clickOn(key(8));
+    repeat();
+    send(QEvent::KeyRelease, false);
+    m_shell->store().flush();
+    QCOMPARE(key(8)->text(), QStringLiteral("E"));
+    // Down and up for one key.
+    send(QEvent::KeyPress, false);
+    repeat();
+    repeat();
+    send(QEvent::KeyRelease, false);
+    m_shell->store().flush();
+    QCOMPARE(key(8)->text(), QStringLiteral("B"));
+    QCOMPARE(key(7)->text(), QStringLiteral("W"));
 }
 
 void tst_MainWindow::captureEndsElsewhere()

@@ -23,13 +23,13 @@ ActionAssignWid::ActionAssignWid(QWidget *parent) : QWidget(parent), m_ui(new Ui
 
 ActionAssignWid::~ActionAssignWid() = default;
 
-void ActionAssignWid::openOverlay(int actionNo, int inputType, QString strAction)
+void ActionAssignWid::openOverlay(int actionNo, int inputType, QString strAction, bool capture)
 {
     setAction(actionNo, strAction);
     m_ui->m_map->setCurrentIndex(inputType);
     show();
     raise();
-    m_ui->m_keyboard->setKeyCapture(inputType == InputType::Keyboard);
+    m_ui->m_keyboard->setKeyCapture(capture && inputType == InputType::Keyboard);
 }
 
 void ActionAssignWid::setAction(int actionNo, const QString &strAction)

@@ -31,7 +31,9 @@ public:
     ~ActionAssignWid() override;
 
     /// Opens for action 1 or 2 on the page of an InputType 0 to 2, with the action's title.
-    void openOverlay(int actionNo, int inputType, QString strAction);
+    /// Without `capture` the keyboard page leaves the real keyboard alone, and its keys are chosen
+    /// like those of the other pages.
+    void openOverlay(int actionNo, int inputType, QString strAction, bool capture = true);
     /// Aims what is picked from now on at action 1 or 2, and shows its title.
     void setAction(int actionNo, const QString &strAction);
     /// Clears the check marks of the three pages.

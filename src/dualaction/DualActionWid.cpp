@@ -70,6 +70,13 @@ void DualActionWid::setOverlayMask(QRegion keyBoardRegion)
         m_overlay->setMask(QRegion(m_overlay->rect()) - keyBoardRegion);
 }
 
+void DualActionWid::setCaptureEnabled(bool enabled)
+{
+    // Not passed on to an open overlay: it has the focus, which a host may take for having left
+    // the page.
+    m_captureEnabled = enabled;
+}
+
 bool DualActionWid::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Resize && m_overlay && watched == m_overlay->parentWidget())
@@ -140,7 +147,7 @@ void DualActionWid::slotActionAssigned(int actionNo, int inputType, QString strA
     fitOverlay();
     emit sigGetVantrixMask(m_overlay->parentWidget());
     m_openedFor = actionNo;
-    m_overlay->openOverlay(actionNo, inputType, strAction);
+    m_overlay->openOverlay(actionNo, inputType, strAction, m_captureEnabled);
 }
 
 void DualActionWid::slotDualActionChanged(int actionNo, vantrix_key_mapping key)

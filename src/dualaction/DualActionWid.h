@@ -38,6 +38,10 @@ public:
     /// Cuts the pad's outline, in the coordinates of the overlay's parent, out of the overlay.
     void setOverlayMask(QRegion keyBoardRegion);
 
+    /// The page's permission to capture keys, as it is when the overlay opens; true until told
+    /// otherwise.
+    void setCaptureEnabled(bool enabled);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 public slots:
@@ -70,4 +74,5 @@ private:
     const std::unique_ptr<Ui::DualActionUi> m_ui;
     QPointer<ActionAssignWid> m_overlay;
     int m_openedFor = 1; ///< action that the overlay was last opened for
+    bool m_captureEnabled = true;
 };

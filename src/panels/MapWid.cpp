@@ -109,6 +109,7 @@ void MapWid::setCurrentInput(int input)
 void MapWid::setCaptureEnabled(bool enabled)
 {
     m_captureEnabled = enabled;
+    m_ui->m_dual_action->setCaptureEnabled(enabled);
     updateCapture();
 }
 

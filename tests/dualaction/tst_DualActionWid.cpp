@@ -32,6 +32,7 @@ private slots:
     void maskIsAskedForBeforeTheOverlayShows();
     void openingKinds_data();
     void openingKinds();
+    void overlayCapturesByPermission();
     void firstAction();
     void otherRecordsGiveTheirAltCode();
     void takingTheFirstActionBack_data();
@@ -210,6 +211,25 @@ void tst_DualActionWid::openingKinds()
     QCOMPARE(m_changed->count(), 0);
     emit overlay()->sigDualActionChanged(number, plainKey(496));
     QCOMPARE(action(number)->keyCode(), ushort(496));
+}
+
+/// The permission is asked as the overlay opens: the focus that it takes has no say in it.
+void tst_DualActionWid::overlayCapturesByPermission()
+{
+    m_panel->setCaptureEnabled(false);
+    open(1, 0);
+    QVERIFY(overlay()->isVisible());
+    QVERIFY(!QWidget::keyboardGrabber());
+    QCOMPARE(m_hotKey->startCount, 0);
+    clickOn(child<QPushButton>(overlay(), "m_back"));
+    m_panel->setCaptureEnabled(true);
+    QVERIFY(!QWidget::keyboardGrabber());
+    open(1, 0);
+    QVERIFY(QWidget::keyboardGrabber());
+    m_panel->setCaptureEnabled(false);
+    QVERIFY(QWidget::keyboardGrabber());
+    clickOn(child<QPushButton>(overlay(), "m_back"));
+    QVERIFY(!QWidget::keyboardGrabber());
 }
 
 void tst_DualActionWid::firstAction()

@@ -1,6 +1,8 @@
 #include "panels/MapWid.h"
 
 #include "application/ApplicationWid.h"
+#include "dualaction/ActionAssignWid.h"
+#include "dualaction/ActionWid.h"
 #include "dualaction/DualActionWid.h"
 #include "fakes/FakeProfileCfg.h"
 #include "fakes/FakeServices.h"
@@ -37,6 +39,8 @@ private slots:
     void captureRule_data();
     void captureRule();
     void captureFollowsEachChange();
+    void overlayTakesThePermission_data();
+    void overlayTakesThePermission();
     void recordsOfThePanels();
     void applicationsAndDualActions();
     void macros();
@@ -158,6 +162,24 @@ void tst_MapWid::captureRule()
     m_map->setCaptureEnabled(enabled);
     m_map->setKeySelected(selected);
     QCOMPARE(isCapturing(), captures);
+}
+
+void tst_MapWid::overlayTakesThePermission_data()
+{
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("enabled") << true;
+    QTest::newRow("not enabled") << false;
+}
+
+void tst_MapWid::overlayTakesThePermission()
+{
+    QFETCH(bool, enabled);
+    m_map->setCurrentInput(6);
+    m_map->setCaptureEnabled(enabled);
+    emit panel<ActionWid>("m_action1")->sigActionAssigned(1, 0, QStringLiteral("ACTION  1"));
+    QCOMPARE(QWidget::keyboardGrabber() != nullptr, enabled);
+    auto *const overlay = m_environment->mainWidget->findChild<ActionAssignWid *>();
+    overlay->closeOverlay();
 }
 
 void tst_MapWid::captureFollowsEachChange()

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 
 /// A person gives keys two actions, with real keys and the mouse, and sends them to the device.
@@ -28,6 +29,7 @@ private slots:
     void backAndResize();
     void leavingTheMappingView();
     void theVeilHoldsForTheKeyboard();
+    void byKeyboardAlone();
 
 private:
     QPushButton *key(int keyIdx)
@@ -39,6 +41,7 @@ private:
     void closeWith(const char *button);
     bool isHoleAroundTheKeys();
     void tabTo(const QString &name);
+    static QWidget *tabOnTo(const std::function<bool(QWidget *)> &isThere);
     vantrix_key_mapping stored(int keyIdx)
     {
         return m_services->store().state().mapping(0, 0, keyIdx);
@@ -208,6 +211,59 @@ void tst_DualRoad::theVeilHoldsForTheKeyboard()
     QVERIFY(!overlay()->isVisible());
     QCOMPARE(int(stored(7).type), 3);
     QCOMPARE(ushort(stored(7).digital.firstAction), ushort(496));
+}
+
+/// Goes on with Tab until that is where the focus is.
+QWidget *tst_DualRoad::tabOnTo(const std::function<bool(QWidget *)> &isThere)
+{
+    constexpr int patience = 40;
+    for (int i = 0; i < patience; ++i) {
+        XGestures::key(QStringLiteral("Tab"));
+        QWidget *const focused = QApplication::focusWidget();
+        if (focused && isThere(focused))
+            return focused;
+    }
+    return nullptr;
+}
+
+void tst_DualRoad::byKeyboardAlone()
+{
+    XGestures::key(QStringLiteral("ctrl+k"));
+    QWidget *const padKey = tabOnTo([](const QWidget *widget) {
+        return widget->objectName().startsWith(QLatin1String("key_"));
+    });
+    QVERIFY(padKey);
+    const int keyIdx = padKey->objectName().mid(4).toInt();
+    XGestures::key(QStringLiteral("space"));
+    QVERIFY(key(keyIdx)->isChecked());
+    const auto *const action = child<ActionWid>(m_window.get(), "m_action1");
+    QVERIFY(tabOnTo([action](const QWidget *widget) {
+        return action->isAncestorOf(widget) && widget->objectName() == QLatin1String("m_action");
+    }));
+    XGestures::key(QStringLiteral("space"));
+    QWidget *const kind = tabOnTo([action](const QWidget *widget) {
+        return action->isAncestorOf(widget) && widget->objectName() != QLatin1String("m_action");
+    });
+    QVERIFY(kind);
+    QCOMPARE(static_cast<QPushButton *>(kind)->text(), QStringLiteral("KEYBOARD"));
+    XGestures::key(QStringLiteral("space"));
+    QVERIFY(overlay()->isVisible());
+    QVERIFY(!QWidget::keyboardGrabber());
+    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("btn_1"));
+    XGestures::key(QStringLiteral("Right"));
+    XGestures::key(QStringLiteral("space"));
+    QCOMPARE(key(keyIdx)->text(), QStringLiteral("F1"));
+    XGestures::key(QStringLiteral("Escape"));
+    QVERIFY(overlay()->isVisible());
+    QCOMPARE(key(keyIdx)->text(), QStringLiteral("F1"));
+    tabTo(QStringLiteral("m_apply"));
+    XGestures::key(QStringLiteral("space"));
+    QVERIFY(!overlay()->isVisible());
+    QCOMPARE(QApplication::focusWidget(), kind);
+    QCOMPARE(int(stored(keyIdx).type), 3);
+    QCOMPARE(ushort(stored(keyIdx).digital.firstAction), ushort(58));
+    XGestures::key(QStringLiteral("ctrl+z"));
+    QVERIFY(int(stored(keyIdx).type) != 3);
 }
 
 VANTRIX_TEST_MAIN(tst_DualRoad)

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// Texts that hold names which people gave to profiles and macros, made such that Qt shows them
-/// letter by letter.
+/// Texts that hold names which people gave to profiles, macros and files, made such that Qt shows
+/// them letter by letter.
 namespace GivenText {
 
 /// For buttons and actions: no `&` marks a shortcut.

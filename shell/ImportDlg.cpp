@@ -2,6 +2,7 @@
 
 #include "interfaces/Modal.h"
 #include "shell/ExchangeFolder.h"
+#include "shell/GivenText.h"
 #include "shell/ShellStyle.h"
 
 #include <QBoxLayout>
@@ -102,7 +103,7 @@ bool ImportDlg::openFile(const QString &fileName)
     m_content = ExchangeContent();
     m_isRead = false;
     m_file->setText(shortName);
-    m_file->setToolTip(fileName);
+    m_file->setToolTip(GivenText::forTip(fileName));
     QString error;
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {

@@ -32,6 +32,7 @@ private slots:
     void folderIsRemembered();
     void exportThatCannotBeWritten();
     void oneProfileGoesInPlaceOfTheShownOne();
+    void fileIsNamedAsItIs();
     void severalGoWhereTheyCameFrom();
     void allComeBackByteForByte();
     void uncheckedStayOut();
@@ -192,6 +193,15 @@ void tst_ExchangeDlg::oneProfileGoesInPlaceOfTheShownOne()
     clickOn(child<QPushButton>(&dialog, "m_importBtn"));
     QCOMPARE(store().state().mapping(0, 9, 7), plainKey(5));
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void tst_ExchangeDlg::fileIsNamedAsItIs()
+{
+    ImportDlg dialog(m_shell->context);
+    QVERIFY(dialog.openFile(write("a<b>c.json", json({2}))));
+    const auto *const label = child<QLabel>(&dialog, "m_importFile");
+    QCOMPARE(label->text(), QStringLiteral("a<b>c.json"));
+    QVERIFY(label->toolTip().endsWith(QLatin1String("a&lt;b&gt;c.json</span>")));
 }
 
 void tst_ExchangeDlg::severalGoWhereTheyCameFrom()

@@ -3,6 +3,7 @@
 #include "interfaces/IEnvironment.h"
 #include "interfaces/Modal.h"
 #include "toolkit/FocusRing.h"
+#include "toolkit/PanelStyle.h"
 #include "ui_ReassignDlg.h"
 #include "vocabulary/KeyCodes.h"
 
@@ -57,10 +58,7 @@ void ReassignDlg::buildInputs()
         auto *button = new QPushButton(inputTypeText(input), m_ui->left_widget);
         button->setObjectName(QStringLiteral("input_%1").arg(input));
         button->setCheckable(true);
-        button->setStyleSheet(
-            QStringLiteral("QPushButton{background:rgb(25,25,25);border:none;min-height:25px;font-"
-                           "size:12px;}:hover{background:rgb(81,81,81);}:checked{background:rgb("
-                           "132,49,155)}"));
+        button->setStyleSheet(selectorSheet());
         m_inputGroup->addButton(button, input);
         m_ui->m_inputLayout->addWidget(button);
     }

@@ -13,11 +13,12 @@ OstraMenu::OstraMenu(QWidget *parent) : QWidget(parent)
     setObjectName(QStringLiteral("ostraMenu"));
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(
-        QStringLiteral("OstraMenu{background:rgb(51,51,51);border:1px solid rgb(132,50,155);}"
+        QStringLiteral("OstraMenu{background:rgb(51,51,51);border:1px solid %1;}"
                        "QPushButton{background:transparent;border:none;color:white;min-height:24px;"
                        "min-width:70px;padding:0 10px;text-align:left;font-size:11px;}"
                        "QPushButton:hover{background:rgba(255,255,255,50);}"
-                       "QPushButton:focus{background:rgb(132,50,155);}"));
+                       "QPushButton:focus{background:%1;}")
+            .arg(QStringLiteral("rgb(132,50,155)")));
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
     layout->setSpacing(0);

@@ -71,6 +71,7 @@ AssignMenuWid::AssignMenuWid(QWidget *parent)
       m_reassignDlg(new ReassignDlg(IEnvironment::Instance()->getMainWidget()))
 {
     m_ui->setupUi(this);
+    m_reassignDlg->setObjectName(QStringLiteral("m_reassignDlg"));
     m_ui->m_dualActionLab->hide();
     for (QPushButton *command : m_ui->widget->findChildren<QPushButton *>())
         keepTextNarrow(command, TextMargins);

@@ -38,6 +38,7 @@ VantrixKey::VantrixKey(QWidget *parent)
     : FixedBtn(parent), m_tip(new DualActionTipWid(ancestor(this, 3)))
 {
     setCheckable(true);
+    m_tip->setObjectName(QStringLiteral("m_tip"));
     m_tip->hide();
 }
 

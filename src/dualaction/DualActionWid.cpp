@@ -43,6 +43,7 @@ void DualActionWid::createOverlay()
     if (!mainWid)
         return;
     m_overlay = new ActionAssignWid(mainWid);
+    m_overlay->setObjectName(QStringLiteral("m_overlay"));
     connect(m_overlay, &ActionAssignWid::sigDualActionBack, this,
             &DualActionWid::sigDualActionBack);
     connect(m_overlay, &ActionAssignWid::sigDualActionApply, this,

@@ -14,6 +14,7 @@ KeyboardWid::KeyboardWid(QWidget *parent)
     m_ui->setupUi(this);
     const int language = IEnvironment::Instance()->getLanguage();
     m_keyboard = new Keyboard(layoutOfLanguage(language), language, m_ui->widget);
+    m_keyboard->setObjectName(QStringLiteral("m_keyboard"));
     m_ui->m_layout->addWidget(m_keyboard);
     connect(m_keyboard, &Keyboard::sigKeyChanged, this, &KeyboardWid::sigKeyChanged);
 }

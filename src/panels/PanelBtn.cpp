@@ -36,6 +36,7 @@ PanelBtn::PanelBtn(const QString &tag, const QString &name, Offset offset, QWidg
     setAccessibleName(name);
 
     auto *const icon = new PanelIcon(tag, this);
+    m_name->setObjectName(QStringLiteral("m_name"));
     m_name->setStyleSheet(QStringLiteral("QLabel{font-size:12px;}:hover{}"));
     for (QLabel *const part : {static_cast<QLabel *>(icon), m_name}) {
         // The button takes every click and shows the hover for both.

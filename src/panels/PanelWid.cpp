@@ -12,6 +12,7 @@ PanelWid::PanelWid(int mainNumber, ButtonGroupEx *mains, ButtonGroupEx *presets,
     m_ui->setupUi(this);
     const PresetPanelRow &group = PresetGroups().at(mainNumber);
     m_main = new PanelBtn(QLatin1String(group.tag), tr(group.name), PanelBtn::Offset::Group, this);
+    m_main->setObjectName(QStringLiteral("m_main"));
     m_ui->m_mainLayout->addWidget(m_main);
     mains->addButton(m_main);
     connect(m_main, &PanelBtn::toggled, this, &PanelWid::slotMainPanelClicked);

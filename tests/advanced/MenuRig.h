@@ -52,7 +52,7 @@ protected:
     void tearDown();
     QLabel *label(const char *name) const { return child<QLabel>(m_menu.get(), name); }
     QPushButton *button(const char *name) const { return child<QPushButton>(m_menu.get(), name); }
-    ReassignDlg *dialog() const { return m_main->findChild<ReassignDlg *>(); }
+    ReassignDlg *dialog() const { return m_main->findChild<ReassignDlg *>("m_reassignDlg"); }
     void select(int keyIdx, const vantrix_key_mapping &key);
     /// Opens the dialog with a button of the menu; `user` acts in it and APPLY follows.
     void applyAfter(const char *name, const std::function<void(QObject *dialog)> &user);

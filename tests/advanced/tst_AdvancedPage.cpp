@@ -339,7 +339,8 @@ void tst_AdvancedPage::updateKeepsTheMacros()
 {
     m_page->slotAddKeyAssignMacro("Jump");
     m_page->updateKeyMapping();
-    const auto *const macros = child<MacroAdvWid>(m_main->findChild<ReassignDlg *>(), "m_macro");
+    const auto *const macros =
+        child<MacroAdvWid>(m_main->findChild<ReassignDlg *>("m_reassignDlg"), "m_macro");
     const auto has = [macros] {
         const auto buttons = macros->findChildren<QPushButton *>();
         return std::any_of(buttons.begin(), buttons.end(),
@@ -386,7 +387,8 @@ void tst_AdvancedPage::pageDestroyedByWhatItAsksFor()
     connect(m_page.get(), &VantrixMapWid::sigSwitchToMacro, this, [this] { m_page.reset(); });
     selectKey(3);
     QTimer::singleShot(0, this, [this] {
-        emit child<MacroAdvWid>(m_main->findChild<ReassignDlg *>(), "m_macro")->sigCreateMacro();
+        emit child<MacroAdvWid>(m_main->findChild<ReassignDlg *>("m_reassignDlg"), "m_macro")
+            ->sigCreateMacro();
     });
     child<QPushButton>(menu(), "m_reassignKey")->click();
     QVERIFY(!m_page);

@@ -61,7 +61,7 @@ private slots:
     void tipMayGoFirst();
 
 private:
-    DualActionTipWid *tip() const { return m_page->findChild<DualActionTipWid *>(); }
+    DualActionTipWid *tip() const { return m_page->findChild<DualActionTipWid *>("m_tip"); }
     void enter() const
     {
         QEvent event(QEvent::Enter);

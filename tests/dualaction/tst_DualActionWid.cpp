@@ -62,7 +62,7 @@ private slots:
     void roundTripOfEveryDepth();
 
 private:
-    ActionAssignWid *overlay() { return m_main->findChild<ActionAssignWid *>(); }
+    ActionAssignWid *overlay() { return m_main->findChild<ActionAssignWid *>("m_overlay"); }
     ActionWid *action(int number)
     {
         return child<ActionWid>(m_panel, number == 1 ? "m_action1" : "m_action2");

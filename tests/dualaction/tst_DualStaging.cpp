@@ -80,7 +80,7 @@ private:
     {
         return child<ActionWid>(m_page, number == 1 ? "m_action1" : "m_action2");
     }
-    ActionAssignWid *overlay() const { return m_window->findChild<ActionAssignWid *>(); }
+    ActionAssignWid *overlay() const { return m_window->findChild<ActionAssignWid *>("m_overlay"); }
     QLabel *picture() const;
     Face faceOf(int index) const;
     void compareFaces(int index, const Face &expected) const;

@@ -184,7 +184,7 @@ void tst_KeyboardWid::tallPanelUsesItsWidth()
     KeyboardWid panel(&page);
     panel.resize(766, 700);
     page.show();
-    const auto *const keyboard = panel.findChild<Keyboard *>();
+    const auto *const keyboard = child<Keyboard>(&panel, "m_keyboard");
     const int room = 766 - 2 * 9;
     QVERIFY(keyboard->width() > room - 23);
     QVERIFY(keyboard->width() <= room);

@@ -30,7 +30,7 @@ QList<PanelWid *> foldersOf(const SidePanelWid &panel)
 
 PanelBtn *mainOf(const PanelWid *folder)
 {
-    return qobject_cast<PanelBtn *>(child<QLayout>(folder, "m_mainLayout")->itemAt(0)->widget());
+    return child<PanelBtn>(folder, "m_main");
 }
 
 QStringList textsOf(const PanelBtn *button)

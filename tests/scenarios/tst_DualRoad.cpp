@@ -36,7 +36,7 @@ private:
     {
         return child<QPushButton>(m_window.get(), QStringLiteral("key_%1").arg(keyIdx));
     }
-    ActionAssignWid *overlay() { return m_window->findChild<ActionAssignWid *>(); }
+    ActionAssignWid *overlay() { return m_window->findChild<ActionAssignWid *>("m_overlay"); }
     void open(int number, int input);
     void closeWith(const char *button);
     bool isHoleAroundTheKeys();

@@ -243,8 +243,7 @@ void SimulatedDevice::pressPlain(Motion &motion, Events &events)
 {
     const vantrix_key_mapping &mapping = motion.key.content.mapping;
     ushort code = effectiveCode(mapping);
-    // a dual action without actions is none at all
-    if (code == UnassignedCode || mapping.type == KeyType::DualAction)
+    if (code == UnassignedCode)
         code = defaultCodeOfKey(motion.keyIdx);
     if (code != DisabledCode && !switchProfile(code, events))
         press(motion, code, events);
@@ -275,7 +274,9 @@ void SimulatedDevice::returnOverDepth(Motion &motion, Events &events)
     if (digital.dualType == DualType::Normal)
         return;
     motion.isPastDepth = false;
-    release(motion, digital.secondAction, events);
+    const bool isFirstDown = digital.dualType == DualType::Combine;
+    release(motion, digital.secondAction, events,
+            isFirstDown ? expand(digital.firstAction) : std::vector<ushort>());
     if (digital.dualType == DualType::Toggle)
         press(motion, digital.firstAction, events);
 }
@@ -303,12 +304,13 @@ void SimulatedDevice::press(Motion &motion, ushort code, Events &events)
     }
 }
 
-void SimulatedDevice::release(Motion &motion, ushort code, Events &events)
+void SimulatedDevice::release(Motion &motion, ushort code, Events &events,
+                              const std::vector<ushort> &kept)
 {
     const std::vector<ushort> parts = expand(code);
     for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
         const auto found = std::find(motion.held.begin(), motion.held.end(), *part);
-        if (found == motion.held.end())
+        if (found == motion.held.end() || std::count(kept.begin(), kept.end(), *part) > 0)
             continue;
         motion.held.erase(found);
         events.push_back({DeviceEvent::Release, *part});

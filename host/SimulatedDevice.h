@@ -48,12 +48,13 @@ QString deviceEventText(const std::vector<DeviceEvent> &events);
 /// |profile code     |switch        |-                 |-                 |-               |
 /// |disabled (0)     |-             |-                 |-                 |-               |
 ///
-/// In "normal" the second action stays until the key is up: it took over for good. Without a
-/// second action, or with pressure sensing off, the second edge does nothing. Code 255 sends the
-/// key's default code. A key with a macro, hot key or shortcut that resolved to nothing sends
-/// nothing. A pseudo code (as an action of a dual action) goes down as all of its codes and comes
-/// up in the opposite order. A key that is held while its profile is replaced or switched comes up
-/// as it went down.
+/// In "normal" the second action stays until the key is up: it took over for good. In "combine" a
+/// code that both actions have goes down anew past d, and stays down on the way back, as part of
+/// the first. Without a second action, or with pressure sensing off, the second edge does nothing.
+/// Without a first action the record is played as a plain one. Code 255 sends the key's default
+/// code. A key with a macro, hot key or shortcut that resolved to nothing sends nothing. A pseudo
+/// code (as an action of a dual action) goes down as all of its codes and comes up in the opposite
+/// order. A key that is held while its profile is replaced or switched comes up as it went down.
 ///
 /// *Profile codes.* 1536 to 1559 go to profile 0 to 23; 1570 and 1571 to the next and the previous
 /// one, around the ends; 1568 and 1569 as well, but stopping at the ends.
@@ -116,7 +117,9 @@ private:
     void returnOverDepth(Motion &motion, Events &events);
     static void comeUp(Motion &motion, Events &events);
     static void press(Motion &motion, ushort code, Events &events);
-    static void release(Motion &motion, ushort code, Events &events);
+    /// Lets the codes of a code go, but for those in `kept`.
+    static void release(Motion &motion, ushort code, Events &events,
+                        const std::vector<ushort> &kept = {});
     bool hasSecondEdge(const Motion &motion) const;
     bool switchProfile(ushort code, Events &events);
     int number(const char *name, int defaultValue) const;

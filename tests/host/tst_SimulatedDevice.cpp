@@ -12,6 +12,8 @@ class tst_SimulatedDevice : public QObject
 private slots:
     void curves_data();
     void curves();
+    void sharedCodes_data();
+    void sharedCodes();
     void fastAndSlowSendTheSame_data();
     void fastAndSlowSendTheSame();
     void everyDepthHasItsEdge();
@@ -119,6 +121,43 @@ void tst_SimulatedDevice::curves()
     QCOMPARE(pad.move(curve), events);
 }
 
+/// 3073 goes down as 225 and 30, 116 as 98 twice.
+void tst_SimulatedDevice::sharedCodes_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("second");
+    QTest::addColumn<QString>("past");
+    QTest::addColumn<QString>("back");
+    QTest::addColumn<QString>("again");
+    QTest::addColumn<QString>("up");
+    // clang-format off
+    QTest::newRow("combine, the same")      << 2 << 4    << 4    << "+4 -4 +4"              << ""         << "-4 +4"         << "-4";
+    QTest::newRow("combine, adds a code")   << 2 << 225  << 3073 << "+225 -225 +225 +30"    << "-30"      << "-225 +225 +30" << "-30 -225";
+    QTest::newRow("combine, part of first") << 2 << 3073 << 225  << "+225 +30 -225 +225"    << ""         << "-225 +225"     << "-225 -30";
+    QTest::newRow("combine, zero and two")  << 2 << 98   << 116  << "+98 -98 +98 -98 +98"   << ""         << "-98 +98 -98 +98" << "-98";
+    QTest::newRow("toggle, the same")       << 1 << 4    << 4    << "+4 -4 +4"              << "-4 +4"    << "-4 +4"         << "-4 +4 -4";
+    QTest::newRow("normal, the same")       << 0 << 4    << 4    << "+4 -4 +4"              << ""         << ""              << "-4";
+    // clang-format on
+}
+
+void tst_SimulatedDevice::sharedCodes()
+{
+    QFETCH(int, type);
+    QFETCH(int, first);
+    QFETCH(int, second);
+    QFETCH(QString, past);
+    QFETCH(QString, back);
+    QFETCH(QString, again);
+    QFETCH(QString, up);
+    Pad pad;
+    pad.set(dualKey(ushort(first), ushort(second), type, 50));
+    QCOMPARE(pad.move({60}), past);
+    QCOMPARE(pad.move({30}), back);
+    QCOMPARE(pad.move({60}), again);
+    QCOMPARE(pad.move({0}), up);
+}
+
 void tst_SimulatedDevice::fastAndSlowSendTheSame_data()
 {
     QTest::addColumn<int>("type");
@@ -159,8 +198,11 @@ void tst_SimulatedDevice::plainKeys_data()
 {
     QTest::addColumn<vantrix_key_mapping>("key");
     QTest::addColumn<QString>("events");
-    vantrix_key_mapping withoutActions;
+    vantrix_key_mapping withoutActions = clearedKey();
     withoutActions.type = KeyType::DualAction;
+    vantrix_key_mapping withoutAndDisabled = plainKey(0);
+    withoutAndDisabled.type = KeyType::DualAction;
+    withoutAndDisabled.digital.secondAction = 5;
     // clang-format off
     QTest::newRow("letter")             << plainKey(5)                         << "+5 -5";
     QTest::newRow("controller")         << gameKey(474)                        << "+474 -474";
@@ -169,6 +211,7 @@ void tst_SimulatedDevice::plainKeys_data()
     QTest::newRow("unassigned")         << clearedKey()                        << "+26 -26";
     QTest::newRow("dual, first only")   << dualKey(4, 0, 0, 50)                << "+4 -4";
     QTest::newRow("dual, no actions")   << withoutActions                      << "+26 -26";
+    QTest::newRow("dual, none, code 0") << withoutAndDisabled                  << "";
     QTest::newRow("dual, pseudo code")  << dualKey(3073, 4, 0, 50)             << "+225 +30 -30 -225 +4 -4";
     QTest::newRow("two zeros")          << plainKey(116)                       << "+98 -98 +98 -98";
     QTest::newRow("unknown dual type")  << dualKey(4, 5, 9, 50)                << "+4 -4 +5 -5";

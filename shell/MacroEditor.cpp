@@ -123,8 +123,8 @@ void MacroEditor::makeTable()
     m_eventTable->horizontalHeader()->setHighlightSections(false);
     auto *const keys = new WidgetKeys(m_eventTable);
     keys->on(Qt::Key_Delete, [this] { deleteEvents(); });
-    keys->on(Qt::ALT + Qt::Key_Up, [this] { moveRow(-1); });
-    keys->on(Qt::ALT + Qt::Key_Down, [this] { moveRow(1); });
+    keys->on(Qt::ALT | Qt::Key_Up, [this] { moveRow(-1); });
+    keys->on(Qt::ALT | Qt::Key_Down, [this] { moveRow(1); });
     connect(m_eventTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MacroEditor::showState);
 }

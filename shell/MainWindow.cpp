@@ -178,9 +178,9 @@ void MainWindow::makeMenus()
     QMenu *const file = menuBar()->addMenu(tr("&File"));
     ShellPages::addFileActions(file, m_context, this);
     file->addAction(tr("&Settings..."), this, &MainWindow::openSettings,
-                    QKeySequence(Qt::CTRL + Qt::Key_Comma));
+                    QKeySequence(Qt::CTRL | Qt::Key_Comma));
     file->addSeparator();
-    file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL + Qt::Key_Q));
+    file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(Qt::CTRL | Qt::Key_Q));
     makeEditMenu();
     m_profiles->fillMenu(menuBar()->addMenu(tr("&Profile")));
     makeViewMenu();
@@ -189,9 +189,9 @@ void MainWindow::makeMenus()
 void MainWindow::makeEditMenu()
 {
     QMenu *const edit = menuBar()->addMenu(tr("&Edit"));
-    m_undo->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_Z));
+    m_undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
     m_redo->setShortcuts(
-        {QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z), QKeySequence(Qt::CTRL + Qt::Key_Y)});
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
     m_undo->setIconText(QStringLiteral("↶"));
     m_redo->setIconText(QStringLiteral("↷"));
     connect(m_undo, &QAction::triggered, this, &MainWindow::undo);
@@ -202,10 +202,10 @@ void MainWindow::makeEditMenu()
     if (m_findBar)
         edit->addAction(
             tr("&Find Keys..."), this, [this] { m_findBar->setFocus(Qt::ShortcutFocusReason); },
-            QKeySequence(Qt::CTRL + Qt::Key_F));
+            QKeySequence(Qt::CTRL | Qt::Key_F));
     m_capture = edit->addAction(tr("Assign by &Pressing Keys"));
     m_capture->setCheckable(true);
-    m_capture->setShortcut(QKeySequence(Qt::CTRL + Qt::Key_K));
+    m_capture->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_K));
     m_capture->setStatusTip(tr("While a key of the pad is selected, the next key that is pressed "
                                "is put on it. Off, the keyboard works the window."));
     connect(m_capture, &QAction::toggled, this, [this](bool on) {
@@ -214,14 +214,14 @@ void MainWindow::makeEditMenu()
     });
     edit->addSeparator();
     edit->addAction(tr("&Apply to Device"), &m_context, &ShellContext::applyRequested,
-                    QKeySequence(Qt::CTRL + Qt::Key_Return));
+                    QKeySequence(Qt::CTRL | Qt::Key_Return));
 }
 
 void MainWindow::makeViewMenu()
 {
     QMenu *const view = menuBar()->addMenu(tr("&View"));
     m_names = view->addAction(tr("Profile &Names"), this, &MainWindow::arrange,
-                              QKeySequence(Qt::CTRL + Qt::Key_B));
+                              QKeySequence(Qt::CTRL | Qt::Key_B));
     m_names->setCheckable(true);
     m_names->setChecked(true);
     connect(m_profiles, &ProfileList::namesNeeded, m_names, [this] {
@@ -234,7 +234,7 @@ void MainWindow::makeViewMenu()
         const ShellPage page = ShellPage(m_tabs->id(tab));
         view->addAction(
             tab->text(), this, [this, page] { showPage(page); },
-            QKeySequence(Qt::CTRL + Qt::Key_1 + number++));
+            QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + number++)));
     }
 }
 

@@ -132,21 +132,21 @@ void ProfileList::fillMenu(QMenu *menu)
 {
     menu->addAction(tr("&Rename..."), this, &ProfileList::rename, QKeySequence(Qt::Key_F2));
     menu->addAction(tr("&Duplicate"), this, &ProfileList::duplicate,
-                    QKeySequence(Qt::CTRL + Qt::Key_D));
+                    QKeySequence(Qt::CTRL | Qt::Key_D));
     QMenu *const targets = menu->addMenu(tr("Copy &Over"));
     connect(targets, &QMenu::aboutToShow, this, [this, targets] { fillTargets(targets); });
     menu->addAction(tr("&Clear"), this, &ProfileList::clear);
     menu->addSeparator();
-    menu->addAction(tr("Move &Up"), this, &ProfileList::moveUp, QKeySequence(Qt::ALT + Qt::Key_Up));
+    menu->addAction(tr("Move &Up"), this, &ProfileList::moveUp, QKeySequence(Qt::ALT | Qt::Key_Up));
     menu->addAction(tr("Move Do&wn"), this, &ProfileList::moveDown,
-                    QKeySequence(Qt::ALT + Qt::Key_Down));
+                    QKeySequence(Qt::ALT | Qt::Key_Down));
     menu->addSeparator();
     menu->addAction(
         tr("&Next Profile"), this, [this] { showNext(1); },
-        QKeySequence(Qt::CTRL + Qt::Key_PageDown));
+        QKeySequence(Qt::CTRL | Qt::Key_PageDown));
     menu->addAction(
         tr("&Previous Profile"), this, [this] { showNext(-1); },
-        QKeySequence(Qt::CTRL + Qt::Key_PageUp));
+        QKeySequence(Qt::CTRL | Qt::Key_PageUp));
 }
 
 void ProfileList::setMarked(const std::set<int> &profiles)

@@ -41,7 +41,7 @@ void ShellPages::addFileActions(QMenu *menu, ShellContext &context, QWidget *win
 {
     const auto add = [&](const char *name, const char *text, Qt::Key shortcut, auto open) {
         QAction *const action = menu->addAction(QCoreApplication::translate("ShellPages", text),
-                                                window, open, QKeySequence(Qt::CTRL + shortcut));
+                                                window, open, QKeySequence(Qt::CTRL | shortcut));
         action->setObjectName(QLatin1String(name));
     };
     add("m_importAction", QT_TRANSLATE_NOOP("ShellPages", "Import profiles..."), Qt::Key_I,

@@ -452,7 +452,7 @@ void tst_ActionAssignWid::tabStaysAboveTheVeil()
 void tst_ActionAssignWid::shortcutsOfTheWindowRest()
 {
     QPushButton *const free = buttonBelow({300, 200, 40, 40});
-    QShortcut undo(QKeySequence(Qt::CTRL + Qt::Key_Z), m_main.get());
+    QShortcut undo(QKeySequence(Qt::CTRL | Qt::Key_Z), m_main.get());
     QSignalSpy spy(&undo, &QShortcut::activated);
     const auto press = [this] {
         QTest::keyClick(m_main->windowHandle(), Qt::Key_Z, Qt::ControlModifier);

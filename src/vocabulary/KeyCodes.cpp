@@ -47,6 +47,30 @@ constexpr std::array<CodeRange, 14> TypedCodes = {{
 }};
 // clang-format on
 
+constexpr bool isAscending(const std::array<CodeRange, TypedCodes.size()> &ranges)
+{
+    for (std::size_t i = 0; i < ranges.size(); ++i) {
+        if (ranges[i].first > ranges[i].last || (i > 0 && ranges[i].first <= ranges[i - 1].last))
+            return false;
+    }
+    return true;
+}
+static_assert(isAscending(TypedCodes), "a code has one meaning");
+
+constexpr bool isKeyPlan(const std::array<ushort, KeyCount> &codes)
+{
+    for (std::size_t i = 0; i < codes.size(); ++i) {
+        if (codes[i] == 0 || codes[i] >= UnassignedCode)
+            return false;
+        for (std::size_t j = 0; j < i; ++j) {
+            if (codes[j] == codes[i])
+                return false;
+        }
+    }
+    return true;
+}
+static_assert(isKeyPlan(KeyDefaultCodes), "every key emits a code of its own");
+
 /// Three keys whose factory function has a second code.
 bool isOwnBacklightCode(int keyIndex, ushort code)
 {

@@ -53,6 +53,49 @@ void restyle(const QList<QPushButton *> &buttons, int first)
     QCoreApplication::processEvents();
 }
 
+void fillProfiles(FakeProfileCfg *store)
+{
+    for (int index = 0; index < KeyCount; ++index) {
+        store->profile(0, 0).keys[std::size_t(index)] = plainKey(ushort(4 + index));
+        store->profile(0, 1).keys[std::size_t(index)] = gameKey(ushort(466 + index % 12));
+    }
+}
+
+void measureShowing(VantrixMapWid *page, const QList<QPushButton *> &plainKeys)
+{
+    int turn = 0;
+    printRatio(
+        "show another profile, all keys differ", 41,
+        [&] {
+            page->updateUi(++turn % 2);
+            QCoreApplication::processEvents();
+        },
+        [&] { restyle(plainKeys, turn); });
+    printRatio(
+        "show the same profile again", 41,
+        [&] {
+            page->updateUi(0);
+            QCoreApplication::processEvents();
+        },
+        [&] { restyle(plainKeys, turn); });
+}
+
+void measureClick(VantrixMapWid *page, QPushButton *plainKey)
+{
+    page->updateUi(0);
+    child<QPushButton>(page, "key_7")->click();
+    auto *const first = child<QPushButton>(page, "btn_48");
+    auto *const second = child<QPushButton>(page, "btn_30");
+    int turn = 0;
+    printRatio(
+        "from a click to the painted key", 101,
+        [&] {
+            (++turn % 2 ? first : second)->click();
+            QCoreApplication::processEvents();
+        },
+        [&] { restyle({plainKey}, ++turn); });
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -64,10 +107,7 @@ int main(int argc, char **argv)
     FakeEnvironment environment;
     FakeSystemHotKey hotKeys;
     FakeParse parse;
-    for (int index = 0; index < KeyCount; ++index) {
-        store.profile(0, 0).keys[std::size_t(index)] = plainKey(ushort(4 + index));
-        store.profile(0, 1).keys[std::size_t(index)] = gameKey(ushort(466 + index % 12));
-    }
+    fillProfiles(&store);
 
     QWidget window;
     window.resize(PageSize);
@@ -94,33 +134,8 @@ int main(int argc, char **argv)
     const auto plain = plainButtons(KeyCount);
     showNow(plain.get());
     const auto plainKeys = plain->findChildren<QPushButton *>();
-    int turn = 0;
-    printRatio(
-        "show another profile, all keys differ", 41,
-        [&] {
-            page->updateUi(++turn % 2);
-            QCoreApplication::processEvents();
-        },
-        [&] { restyle(plainKeys, turn); });
-    printRatio(
-        "show the same profile again", 41,
-        [&] {
-            page->updateUi(0);
-            QCoreApplication::processEvents();
-        },
-        [&] { restyle(plainKeys, turn); });
-
-    page->updateUi(0);
-    child<QPushButton>(page, "key_7")->click();
-    auto *const first = child<QPushButton>(page, "btn_48");
-    auto *const second = child<QPushButton>(page, "btn_30");
-    printRatio(
-        "from a click to the painted key", 101,
-        [&] {
-            (++turn % 2 ? first : second)->click();
-            QCoreApplication::processEvents();
-        },
-        [&] { restyle({plainKeys.first()}, ++turn); });
+    measureShowing(page, plainKeys);
+    measureClick(page, plainKeys.first());
 
     QThreadPool::globalInstance()->waitForDone();
     return 0;

@@ -18,6 +18,7 @@ public:
     OstraAction(int side, ushort id, const QString &text, QWidget *parent = nullptr);
     ~OstraAction() override;
 
+    int side() const { return m_side; }
     ushort id() const { return m_id; }
     /// The menu that the entry opens, null for none. The entry takes it over.
     void setOstraMenu(OstraMenu *menu);

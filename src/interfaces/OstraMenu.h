@@ -48,6 +48,7 @@ private:
     friend class OstraAction;
 
     void moveFocus(int rows, int columns);
+    bool isWayBack(int columns) const;
     void closeToAnchor();
     bool holds(const QWidget *widget) const;
     void closeMenusBut(const OstraAction *kept);

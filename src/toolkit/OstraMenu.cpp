@@ -116,8 +116,15 @@ void OstraMenu::moveFocus(int rows, int columns)
         m_actions.at((next + count) % count)->setFocus();
     else if (next >= 0 && next < count)
         m_actions.at(next)->setFocus();
-    else if (columns < 0 && qobject_cast<OstraAction *>(m_anchor))
+    else if (isWayBack(columns))
         closeToAnchor();
+}
+
+/// Whether a step sideways leads from this menu to the entry that opened it.
+bool OstraMenu::isWayBack(int columns) const
+{
+    const auto *const entry = qobject_cast<OstraAction *>(m_anchor);
+    return entry && columns == (entry->side() == 1 ? -1 : 1);
 }
 
 void OstraMenu::closeToAnchor()

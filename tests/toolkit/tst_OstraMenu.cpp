@@ -20,6 +20,9 @@ private slots:
     void hoverOpensOneMenuAtATime();
     void sideDecidesWhereAMenuOpens();
     void keyboardWalks();
+    void leftClosesAMenuOnTheRight();
+    void rightClosesAMenuOnTheLeft_data();
+    void rightClosesAMenuOnTheLeft();
     void escapeClosesOneLevel();
     void clickElsewhereCloses();
     void clickOnAnchorLeavesItOpen();
@@ -178,6 +181,68 @@ void tst_OstraMenu::keyboardWalks()
     QCOMPARE(spy.at(0).at(0).value<ushort>(), ushort(113));
     pressKey(leaf(113), Qt::Key_Space);
     QCOMPARE(spy.count(), 2);
+}
+
+void tst_OstraMenu::leftClosesAMenuOnTheRight()
+{
+    m_menu->popup(m_anchor, m_anchor->mapToGlobal(QPoint(0, 30)));
+    clickOn(m_branch);
+    leaf(125)->setFocus();
+    pressKey(leaf(125), Qt::Key_Right);
+    QVERIFY(leaf(125)->hasFocus());
+    pressKey(leaf(125), Qt::Key_Left);
+    QVERIFY(leaf(113)->hasFocus());
+    pressKey(leaf(113), Qt::Key_Left);
+    pressKey(leaf(101), Qt::Key_Left);
+    QVERIFY(!m_sub->isVisible());
+    QVERIFY(m_branch->hasFocus());
+    pressKey(m_branch, Qt::Key_Left);
+    QVERIFY(m_menu->isVisible());
+}
+
+void tst_OstraMenu::rightClosesAMenuOnTheLeft_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QVector<int>>("way"); // places of the entries that Right leads to
+    QTest::newRow("one column") << 3 << QVector<int>{1};
+    QTest::newRow("two columns") << 24 << QVector<int>{1, 13};
+    QTest::newRow("two columns, one shorter") << 13 << QVector<int>{0, 12};
+    QTest::newRow("beside a shorter column") << 13 << QVector<int>{1};
+}
+
+/// The menus of the second action: what opens to the left is left to the right.
+void tst_OstraMenu::rightClosesAMenuOnTheLeft()
+{
+    QFETCH(int, count);
+    QFETCH(QVector<int>, way);
+    OstraMenu menu(m_window);
+    auto *const entry = new OstraAction(0, 0, "LEFT", &menu);
+    auto *const sub = new OstraMenu(&menu);
+    QList<OstraAction *> leaves;
+    for (int i = 0; i < count; ++i)
+        leaves << new OstraAction(0, ushort(i + 1), QString::number(i), sub);
+    sub->addOstraActions(leaves, 12);
+    entry->setOstraMenu(sub);
+    menu.addOstraActions({entry}, 12);
+    menu.popup(m_other, m_window->mapToGlobal(QPoint(500, 300)));
+    menu.focusFirst();
+    pressKey(entry, Qt::Key_Left);
+    QVERIFY(leaves.first()->hasFocus());
+    OstraAction *const start = leaves.at(way.first());
+    start->setFocus();
+    pressKey(start, Qt::Key_Left);
+    QVERIFY(sub->isVisible());
+    QVERIFY(start->hasFocus());
+    for (const int place : qAsConst(way)) {
+        QVERIFY(leaves.at(place)->hasFocus());
+        pressKey(leaves.at(place), Qt::Key_Right);
+    }
+    QVERIFY(!sub->isVisible());
+    QVERIFY(menu.isVisible());
+    QVERIFY(entry->hasFocus());
+    pressKey(entry, Qt::Key_Right);
+    QVERIFY(menu.isVisible());
+    QVERIFY(entry->hasFocus());
 }
 
 void tst_OstraMenu::escapeClosesOneLevel()

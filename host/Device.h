@@ -3,6 +3,7 @@
 struct DeviceImage;
 
 /// Where profiles are sent. The simulated device is one; a transport to a real one is another.
+/// Interface thread.
 class Device
 {
 public:

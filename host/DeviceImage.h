@@ -20,11 +20,11 @@ inline bool operator!=(const DeviceKey &a, const DeviceKey &b)
     return !(a == b);
 }
 
-/// The complete image of a profile, all that a device needs to act by itself.
+/// The complete image of a profile, all that a device needs to act by itself. A plain value.
 struct DeviceImage
 {
-    int owner = 0;
-    int profile = 0;
+    int owner = 0;   ///< as the page was made with, any number
+    int profile = 0; ///< 0 to 23
     std::array<DeviceKey, KeyCount> keys;
 
     /// Image of a profile of the store.
@@ -32,7 +32,9 @@ struct DeviceImage
     /// What a device acts by that was never sent that profile: nothing assigned.
     static DeviceImage factory(int owner, int profile);
 
+    /// For keeping, not for sending: compressed, and only `fromBytes` reads it.
     QByteArray toBytes() const;
+    /// Null for bytes that are empty, cut or no image.
     static std::optional<DeviceImage> fromBytes(const QByteArray &bytes);
 };
 bool operator==(const DeviceImage &a, const DeviceImage &b);

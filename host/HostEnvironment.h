@@ -18,7 +18,7 @@ public:
     /// The window of the main widget; null while there is none.
     QWindow *getMainWindow() override;
     QWidget *getMainWidget() override;
-    /// Not owned; a widget that is gone is null again.
+    /// Not owned; a widget that is gone is null again. Set it before the first page is made.
     void setMainWidget(QWidget *widget);
 
 private:

@@ -15,7 +15,12 @@ class ProfileStore;
 /// | latest known paths  | `<data>/reset.ini`, group `LatestAppPath`, keys `0`, `1`, `2`     |
 ///
 /// The data folder is the user's; the share folder comes with the program and is found from where
-/// the program lies, in a build tree as well as installed.
+/// the program lies, in a build tree as well as installed. A program elsewhere names it:
+///
+///     services.locations().setShareFolder("PREFIX/share/vantrixmap");
+///     services.locations().install(services.store());
+///
+/// Interface thread.
 class HostLocations
 {
 public:
@@ -30,12 +35,15 @@ public:
     explicit HostLocations(const QString &dataFolder = QString());
 
     const QString &dataFolder() const { return m_data; }
-    /// Another share folder than the program's; empty for none.
+    /// Another share folder than the program's, empty for none. The page learns of it with the
+    /// next `install`.
     void setShareFolder(const QString &folder) { m_share = folder; }
     QString storeFile() const;
+    /// The first of the three places that is a folder; empty if none is.
     QString hotKeysFolder(const ProfileStore &store) const;
+    /// One for each AppType, empty where none is known.
     QStringList latestAppPaths() const;
-    /// Keeps a path for the next time an application is looked for.
+    /// Keeps a path for the next time an application is looked for; `install` tells the page.
     void setLatestAppPath(int appType, const QString &path);
 
     /// Tells CfgFile all of it. To be repeated when a setting changed.

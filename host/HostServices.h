@@ -11,7 +11,8 @@
 ///
 /// Make it after the QApplication and before the first page, destroy it after the last page. Its
 /// end waits for the global thread pool, since the page's background work asks for the store's
-/// application paths.
+/// application paths. Before the first page, too, tell the environment its language and main
+/// widget: `environment().setLanguage(...)`, `environment().setMainWidget(&window)`.
 class HostServices
 {
 public:
@@ -22,6 +23,7 @@ public:
     HostServices(const HostServices &) = delete;
     HostServices &operator=(const HostServices &) = delete;
 
+    /// All of them live as long as this.
     ProfileStore &store() { return m_store; }
     SimulatedDevice &device() { return m_device; }
     HostEnvironment &environment() { return m_environment; }

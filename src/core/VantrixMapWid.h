@@ -13,10 +13,11 @@
 /// (IVantrixProfileCfg) as it changes; APPLY only tells the shell to send it to the device. Install
 /// the services of `interfaces/` before the page is made and remove them after it is gone.
 ///
-/// The shell calls `updateUi` to show a profile, `showMapping` as it shows or leaves the page, and
-/// answers the signals. Everything here belongs to the interface thread. Any size will do; the
+/// The shell calls `updateUi` to show a profile and tells the macros after it, calls `showMapping`
+/// as it shows or leaves the page, and answers the signals. IEnvironment's main widget must stand
+/// before the page is made. Everything here belongs to the interface thread. Any size will do; the
 /// page is drawn for 784 by 808 pixels and more, and for a dark palette with light texts, which is
-/// the application's to set.
+/// the application's to set. Some of its sheets make Qt warn: see `isSheetWarning`.
 class VANTRIX_EXPORT VantrixMapWid : public QWidget
 {
     Q_OBJECT
@@ -26,9 +27,18 @@ public:
     explicit VantrixMapWid(int iOwner, QWidget *parent = nullptr);
     ~VantrixMapWid() override;
 
-    /// Shows a profile of the store; no key is selected afterwards.
+    /// Shows a profile of the store, 0 to 23 on this pad; the number is handed on to the store as
+    /// it is. No key is selected afterwards. Where the store fails to read the mappings, the keys
+    /// keep what they showed.
+    ///
+    /// It empties the macro lists: tell every macro anew with `slotAddKeyAssignMacro`, in the
+    /// store's order. Until then keys with a macro have no name.
+    ///
+    /// Missing paths of applications are warned of in modal boxes; the page may be destroyed
+    /// meanwhile.
     void updateUi(int iProfile);
-    /// Reads the present profile anew; no key is selected afterwards. The mode stays.
+    /// Reads the present profile's keys anew; no key is selected afterwards. Mode and macro lists
+    /// stay. Failed reads and warnings as in `updateUi`.
     void updateKeyMapping();
     /// Tells whether the page shows. True at first. While false, the page never captures the
     /// keyboard.
@@ -40,9 +50,11 @@ public:
     QSize minimumSizeHint() const override;
 
 public slots:
-    /// Applies a preset to the whole pad: the input it belongs to, and its number, 0 to 8.
+    /// Applies a preset to the whole pad: the input it belongs to (InputType), and its number, 0 to
+    /// 8.
     void slotPanelChanged(int inputType, int keyboardType);
-    /// The shell has a new macro. Names are UTF-8.
+    /// One more macro for the end of the lists: a new one, and each one after `updateUi`. Labels
+    /// the keys that hold it. Names are UTF-8.
     void slotAddKeyAssignMacro(std::string strMacroName);
     /// The shell is about to delete a macro; call this while the store still knows it.
     void slotDelKeyAssignMacro(std::string strMacroName);
@@ -57,7 +69,8 @@ signals:
     /// on `slotUpdateMacroAssign`, and on `slotDelKeyAssignMacro` when that changed the profile.
     void sigUpdateKeyMapping();
     /// A request to the device: 5 with the service's request after the user confirmed a reset, 23
-    /// with null after pressure sensing was switched.
+    /// with null after pressure sensing was switched. The request stays the service's
+    /// (IParseVantrix).
     void sigSdkRequest(int cmd, void *data);
     /// The user wants to create a macro; the shell opens its macro page.
     void sigSwitchToMacro();
@@ -65,11 +78,14 @@ signals:
     void sigUpdateMacroAssign();
     /// The page was hidden.
     void sigHide();
-    /// The companion feature's key was assigned. Connect directly: the receiver fills `keyInfo`,
-    /// the text of the key, before it returns. `key` is the native scan code of the key's default
-    /// code, as in the next two.
+    /// A key was given the companion feature's code, or shows it as a profile is shown. Connect
+    /// directly: the receiver fills `keyInfo`, the text of the key, before it returns. `key` is the
+    /// native scan code of the key's default code, as in the next two.
     void sigMeridianKeyInfo(QString &keyInfo, int key);
+    /// A key that had the companion feature's code is written anew, by an assignment or as a
+    /// profile is shown. Comes before `sigMeridianKeyInfo` when it keeps the code.
     void deleteMeridianKey(int key);
+    /// A key that had a power mode's code gets another code, in the same ways.
     void deletePowerModeKey(int key);
 
 protected:

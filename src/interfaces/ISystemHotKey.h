@@ -9,8 +9,10 @@ class QWidget;
 class VANTRIX_EXPORT ISystemHotKey : public ServiceInstance<ISystemHotKey>
 {
 public:
-    /// Delivers keys to `widget` until `stopKeyCapture`.
+    /// Delivers keys to `widget`, which stays its owner's, until `stopKeyCapture`; the page calls
+    /// that before the widget goes. A second start takes the place of the first.
     virtual void startKeyCapture(QWidget *widget) = 0;
+    /// Ends it; nothing without a start.
     virtual void stopKeyCapture() = 0;
 
 protected:

@@ -12,7 +12,7 @@
 
 class QDialog;
 
-/// What a modal thing asks. `dialog` is set for dialogs of one's own only.
+/// What a modal thing asks. `dialog` is set for `exec` only; the rest is what was passed.
 struct VANTRIX_EXPORT ModalPrompt
 {
     enum Kind { Warning, Question, OpenFile, SaveFile, OpenFolder, Dialog };
@@ -35,9 +35,10 @@ public:
     /// Answers a prompt in place of the user: an int for messages and dialogs, a text for files.
     using Answerer = std::function<QVariant(const ModalPrompt &)>;
 
+    /// Whose signals to connect to; lives until the program ends.
     static Modal *instance();
 
-    /// Puts `answerer` in the user's place until null is set.
+    /// Puts `answerer` in the user's place until null is set. The signals are emitted all the same.
     static void setAnswerer(Answerer answerer);
 
     /// Runs `dialog.exec()`. The dialog may be destroyed meanwhile by its parent; then the result
@@ -57,6 +58,8 @@ public:
     static QString openFolder(QWidget *parent, const QString &title, const QString &dir);
 
 signals:
+    /// Right before a modal thing is shown, and right after the user has answered it. They nest:
+    /// one may open over another, so count them.
     void opening();
     void closed();
 

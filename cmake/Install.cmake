@@ -38,8 +38,25 @@ endforeach()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/interfaces
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VantrixMap FILES_MATCHING PATTERN "*.h")
 if(VANTRIX_HOST)
-    install(DIRECTORY ${PROJECT_SOURCE_DIR}/host
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VantrixMap FILES_MATCHING PATTERN "*.h")
+    set(VANTRIX_HOST_HEADERS
+        Device.h
+        DeviceImage.h
+        HostEnvironment.h
+        HostKeyCapture.h
+        HostLocations.h
+        HostParse.h
+        HostServices.h
+        KeyContent.h
+        KeyText.h
+        ProfileExchange.h
+        ProfileStore.h
+        SimulatedDevice.h
+        StoreHistory.h
+        StoreRecord.h
+        StoreState.h
+    )
+    list(TRANSFORM VANTRIX_HOST_HEADERS PREPEND ${PROJECT_SOURCE_DIR}/host/)
+    install(FILES ${VANTRIX_HOST_HEADERS} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VantrixMap/host)
 endif()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/share/hotkeys
     DESTINATION ${CMAKE_INSTALL_DATADIR}/vantrixmap)

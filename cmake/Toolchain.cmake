@@ -26,6 +26,9 @@ endif()
 
 # Fuzz targets need to see which way their input takes through the libraries.
 if(VANTRIX_FUZZ)
+    if(NOT CMAKE_CXX_COMPILER_ID MATCHES Clang)
+        message(FATAL_ERROR "VANTRIX_FUZZ needs clang++: g++ has no fuzzer.")
+    endif()
     add_compile_options(-fsanitize=fuzzer-no-link)
     add_link_options(-fsanitize=fuzzer-no-link)
 endif()

@@ -22,6 +22,12 @@
 
 #include <algorithm>
 
+/// A static library's resources are there only when asked for, and not from within a namespace.
+static void initPictures()
+{
+    Q_INIT_RESOURCE(VantrixMap);
+}
+
 namespace {
 
 constexpr QSize DesignSize(784, 808);
@@ -69,6 +75,7 @@ struct VantrixMapWid::Private : Ui::VantrixMapUi
 VantrixMapWid::VantrixMapWid(int iOwner, QWidget *parent) : QWidget(parent), m_data(new Private)
 {
     registerRecordTypes();
+    initPictures();
     m_data->setupUi(this);
     m_data->verticalLayout_2->setSizeConstraint(QLayout::SetNoConstraint);
     m_data->iOwner = iOwner;

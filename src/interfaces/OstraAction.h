@@ -22,7 +22,7 @@ public:
     ushort id() const { return m_id; }
     /// The menu that the entry opens, null for none. The entry takes it over.
     void setOstraMenu(OstraMenu *menu);
-    OstraMenu *ostraMenu() const { return m_menu; }
+    OstraMenu *ostraMenu() const;
     /// Opens the entry's menu beside it.
     void openMenu();
 

@@ -8,7 +8,7 @@
 ///
 /// Any thread may ask; installing and removing belongs to the interface thread.
 template <class T>
-class ServiceInstance
+class VANTRIX_EXPORT ServiceInstance
 {
 public:
     /// The installed service. Asking with nothing installed is a programming error: it ends the

@@ -15,6 +15,11 @@ OstraAction::~OstraAction()
     delete m_menu.data();
 }
 
+OstraMenu *OstraAction::ostraMenu() const
+{
+    return m_menu;
+}
+
 void OstraAction::setOstraMenu(OstraMenu *menu)
 {
     m_menu = menu;

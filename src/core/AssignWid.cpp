@@ -161,6 +161,8 @@ void AssignWid::announce(int keyIdx)
 {
     const VantrixKey *const button = keyButton(keyIdx);
     vantrix_key_mapping record = button->mapping();
+    if (record.type == KeyType::DualAction && !isDualAction(record))
+        record = plainKey(effectiveCode(record));
     const auto staged = m_dualStage.find(keyIdx);
     const bool isStaged = staged != m_dualStage.end();
     if (isStaged) {
@@ -302,8 +304,12 @@ bool AssignWid::hasRoomForMacro()
         return true;
     const QPointer<AssignWid> alive(this);
     MsgBox::warning(this, tr("warning"), tr("Macro assign has reached maximum limit"));
-    // The menu of advanced mode shows a pick before it hands it on.
-    if (alive && store()->getMode(m_iOwner, m_iProfile) == Mode::Advanced)
+    if (!alive)
+        return false;
+    // What was picked shows as if it had been assigned, and would be taken off with the next click.
+    // The macro list alone keeps what was picked in it.
+    const bool isAdvanced = store()->getMode(m_iOwner, m_iProfile) == Mode::Advanced;
+    if (isAdvanced || store()->getInput(m_iOwner, m_iProfile) != InputType::Macro)
         announceSelection();
     return false;
 }
@@ -451,13 +457,14 @@ void AssignWid::slotRenameMacro(QString strMacroNo, QString strMacroName)
     }
 }
 
-void AssignWid::removeMacro(const std::string &macroName)
+bool AssignWid::removeMacro(const std::string &macroName)
 {
     std::map<uchar, uchar> keys;
     if (!store()->getKeysOfMacro(m_iOwner, m_iProfile, macroName, &keys))
-        return;
+        return false;
     for (const auto &entry : keys)
         assignKey(entry.first, clearedKey());
+    return keys.count(uchar(m_keys->checkedId())) > 0;
 }
 
 void AssignWid::slotUpdateWinShortcutKeys()
@@ -474,8 +481,9 @@ void AssignWid::slotUpdateWinShortcutKeys()
     }
 }
 
-void AssignWid::checkLabels()
+bool AssignWid::checkLabels()
 {
+    bool isSelectedCleared = false;
     IVantrixProfileCfg *const cfg = store();
     std::map<uchar, vantrix_app_assign> apps;
     std::map<uchar, vantrix_hotkey_assign> hotKeys;
@@ -486,14 +494,17 @@ void AssignWid::checkLabels()
         !cfg->getHotKeyAssigns(m_iOwner, m_iProfile, &hotKeys) ||
         !cfg->getShortcutAssigns(m_iOwner, m_iProfile, &shortcuts) ||
         !cfg->getExtendedKeys(m_iOwner, m_iProfile, &extended))
-        return;
+        return false;
     for (int keyIdx = 0; keyIdx < KeyCount; ++keyIdx) {
         const auto key = uchar(keyIdx);
         const VantrixKey *const button = keyButton(keyIdx);
-        if (button && button->mapping().type == KeyType::Label && apps.count(key) == 0 &&
-            hotKeys.count(key) == 0 && shortcuts.count(key) == 0 && extended.count(key) == 0)
-            assignKey(keyIdx, clearedKey());
+        if (!button || button->mapping().type != KeyType::Label || apps.count(key) > 0 ||
+            hotKeys.count(key) > 0 || shortcuts.count(key) > 0 || extended.count(key) > 0)
+            continue;
+        assignKey(keyIdx, clearedKey());
+        isSelectedCleared |= button->isChecked();
     }
+    return isSelectedCleared;
 }
 
 // Dual actions in edit

@@ -53,11 +53,11 @@ public:
     /// Applies a preset to all keys: `inputType` as the preset list reports it, `keyboardType` the
     /// preset's number, 0 to 8.
     void applyPreset(int inputType, int keyboardType);
-    /// Clears every key that holds the macro.
-    void removeMacro(const std::string &macroName);
-    /// Clears the keys whose label has lost its assign. Named macros lose their labels with it;
-    /// the macro panel's refresh gives these back.
-    void checkLabels();
+    /// Clears every key that holds the macro; true if the selected key is among them.
+    bool removeMacro(const std::string &macroName);
+    /// Clears the keys whose label has lost its assign; true if the selected key is among them.
+    /// Named macros lose their labels with it; the macro panel's refresh gives these back.
+    bool checkLabels();
     /// Selected key from the store, KeyCount or more for none.
     int currentKey() const;
 

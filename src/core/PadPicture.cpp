@@ -63,9 +63,10 @@ QRegion PadPicture::outlineIn(const QWidget *mainWid) const
     if (rects.empty())
         return {};
     const auto shorter = [](const QRect &a, const QRect &b) {
-        return a.height() <= b.height();
+        return a.height() < b.height();
     };
-    const auto tallest = std::max_element(rects.begin(), rects.end(), shorter);
+    // The lowest of them.
+    const auto tallest = std::max_element(rects.rbegin(), rects.rend(), shorter).base() - 1;
     rects.front().adjust(6, 0, -5, 0);
     tallest->adjust(0, 0, -1, -Trim);
     rects.erase(tallest + 1, rects.end());

@@ -1,6 +1,7 @@
 #include "core/VantrixKey.h"
 
 #include "core/DualActionTipWid.h"
+#include "toolkit/SearchGrid.h"
 #include "vocabulary/AppTables.h"
 #include "vocabulary/Common.h"
 #include "vocabulary/KeyCodes.h"
@@ -132,6 +133,11 @@ void VantrixKey::endUpdate()
 void VantrixKey::enterEvent(QEvent *event)
 {
     FixedBtn::enterEvent(event);
+    updateTip();
+}
+
+void VantrixKey::updateTip()
+{
     if (!m_tip)
         return;
     if (!isDualAction(m_mapping)) {
@@ -174,7 +180,7 @@ void VantrixKey::render()
         keyLegendOfCode(state == InputType::Unassigned ? defaultCodeOfKey(m_keyIdx) : code);
     QString text = showsIcon(state) ? QString() : name;
     if (code == MeridianCode)
-        text = m_info;
+        text = SearchGrid::buttonText(m_info);
     if (m_keyIdx < MainKeyCount)
         Common::TextWrap(text);
     setFace(sheet, text, showsIcon(state) ? name : QString());
@@ -189,6 +195,8 @@ void VantrixKey::setFace(const QString &sheet, const QString &text, const QStrin
         applySheet();
     setAccessibleName(spokenName);
     setFullText(text);
+    if (m_tip && m_tip->isVisible())
+        updateTip();
 }
 
 void VantrixKey::applySheet()
@@ -205,7 +213,9 @@ void VantrixKey::applySheet()
 void VantrixKey::setFullText(const QString &text)
 {
     m_text = text;
-    Common::SetText(this, text);
+    // Names of hot keys are the user's; a legend doubles its ampersands itself.
+    const bool isLabel = m_mapping.type == KeyType::Label;
+    Common::SetText(this, isLabel ? SearchGrid::buttonText(text) : text);
     if (!m_labelToolTip.isEmpty())
         setToolTip(Common::PlainTip(m_labelToolTip));
 }

@@ -69,6 +69,8 @@ protected:
 private:
     void render();
     void setFace(const QString &sheet, const QString &text, const QString &spokenName = {});
+    /// Shows the tip with the actions of now, or hides it.
+    void updateTip();
     void applySheet();
     void setFullText(const QString &text);
 

@@ -250,6 +250,8 @@ void VantrixMapWid::updateUi(int iProfile)
     m_data->m_mapWid->updateUi(m_data->iOwner, iProfile);
     m_data->presso->setPressoEnable(store()->getPressoEnabled());
     updateMenuVisible(stored);
+    // The selector says nothing of an input that it has no button for.
+    updateSidePanelVisible(stored);
     updateCapture();
 }
 
@@ -259,8 +261,10 @@ void VantrixMapWid::updateKeyMapping()
     showStored();
     if (!alive)
         return;
-    m_data->m_assignWid->checkLabels();
+    const bool isSelectedCleared = m_data->m_assignWid->checkLabels();
     m_data->m_mapWid->refreshAssigns();
+    if (isSelectedCleared)
+        m_data->m_assignWid->announceSelection();
     updateMenuVisible(mode());
     updateCapture();
 }
@@ -299,9 +303,11 @@ void VantrixMapWid::slotAddKeyAssignMacro(std::string strMacroName)
 
 void VantrixMapWid::slotDelKeyAssignMacro(std::string strMacroName)
 {
-    m_data->m_assignWid->removeMacro(strMacroName);
+    const bool isSelectedCleared = m_data->m_assignWid->removeMacro(strMacroName);
     m_data->m_mapWid->slotDelKeyAssignMacro(strMacroName);
     m_data->menu->delKeyAssignMacro(strMacroName);
+    if (isSelectedCleared)
+        m_data->m_assignWid->announceSelection();
     if (store()->delNamedMacro(m_data->iOwner, m_data->iProfile, strMacroName))
         emit sigUpdateKeyMapping();
 }
@@ -314,8 +320,10 @@ void VantrixMapWid::slotRenameKeyAssignMacro(std::string strOldName, std::string
 
 void VantrixMapWid::slotUpdateMacroAssign()
 {
-    m_data->m_assignWid->checkLabels();
+    const bool isSelectedCleared = m_data->m_assignWid->checkLabels();
     m_data->m_mapWid->refreshAssigns();
+    if (isSelectedCleared)
+        m_data->m_assignWid->announceSelection();
     emit sigUpdateKeyMapping();
 }
 
@@ -440,9 +448,14 @@ void VantrixMapWid::updateSidePanelVisible(int mode)
 /// page that shows.
 void VantrixMapWid::updateCapture()
 {
+    updateCaptureFor(mode());
+}
+
+void VantrixMapWid::updateCaptureFor(int mode)
+{
     m_data->m_mapWid->setKeySelected(isValidKey(m_data->m_assignWid->currentKey()));
     m_data->m_mapWid->setCaptureEnabled(m_data->isShown && m_data->simple->isChecked() &&
-                                        mode() == Mode::Simple);
+                                        mode == Mode::Simple);
 }
 
 void VantrixMapWid::slotModeChanged(int iMode)
@@ -450,10 +463,10 @@ void VantrixMapWid::slotModeChanged(int iMode)
     if (iMode == mode())
         return;
     updateMode(iMode);
+    updateCaptureFor(iMode);
     updateSidePanelVisible(iMode);
-    store()->setMode(m_data->iOwner, m_data->iProfile, iMode);
-    updateCapture();
     m_data->m_assignWid->announceSelection();
+    store()->setMode(m_data->iOwner, m_data->iProfile, iMode);
 }
 
 void VantrixMapWid::slotInputChanged(int input)

@@ -119,6 +119,7 @@ private:
     void updateMenuVisible(int mode);
     void updateSidePanelVisible(int mode);
     void updateCapture();
+    void updateCaptureFor(int mode);
     void showStored();
 
     Private *m_data;

@@ -36,6 +36,9 @@ private slots:
     void storesADualActionAndTakesItOff();
     void storesAHotKeyAndTakesItOff();
     void storesAMacro();
+    void dualActionWithoutAFirstActionIsNone();
+    void deletedMacroLeavesTheMenu();
+    void lostLabelLeavesTheMenu();
     void clearsAndDisables();
     void aRefusedMacroLeavesTheMenuWithTheKey();
     void applyWithoutAPickLeavesALabelledKey();
@@ -241,6 +244,47 @@ void tst_AdvancedPage::storesAMacro()
         QCOMPARE(checked, QStringList{"Jump"});
     });
     QCOMPARE(profile().macros[11], std::string("Jump"));
+}
+
+/// The key is disabled, as its button says, and no other key's function comes to it.
+void tst_AdvancedPage::dualActionWithoutAFirstActionIsNone()
+{
+    profile().keys[3] = plainKey(5);
+    profile().keys[4].type = 3;
+    profile().keys[4].code = 0;
+    profile().keys[4].digital.depth = 40;
+    m_page->updateUi(0);
+    selectKey(3);
+    QCOMPARE(shown(), QString("B"));
+    selectKey(4);
+    QCOMPARE(shown(), QString("DISABLE"));
+    reassign([](QObject *) {});
+    QCOMPARE(profile().keys[4], plainKey(0));
+}
+
+void tst_AdvancedPage::deletedMacroLeavesTheMenu()
+{
+    m_page->slotAddKeyAssignMacro("Jump");
+    selectKey(11);
+    reassign([](QObject *dialog) {
+        emit child<MacroAdvWid>(dialog, "m_macro")->sigMacroAssigned(true, "M1", "Jump", -1);
+    });
+    QCOMPARE(shown(), QString("M1"));
+    m_page->slotDelKeyAssignMacro("Jump");
+    QCOMPARE(shown(), QString("A"));
+}
+
+/// A label that lost its assign behind the page's back.
+void tst_AdvancedPage::lostLabelLeavesTheMenu()
+{
+    profile().keys[11].type = 1;
+    profile().hotKeys[11] = {0, "F1", "Help"};
+    m_page->updateUi(0);
+    selectKey(11);
+    QCOMPARE(shown(), QString("Help"));
+    profile().hotKeys.clear();
+    m_page->slotUpdateMacroAssign();
+    QCOMPARE(shown(), QString("A"));
 }
 
 void tst_AdvancedPage::clearsAndDisables()

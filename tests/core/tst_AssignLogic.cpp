@@ -44,7 +44,9 @@ private slots:
     void labelCheck();
     void labelCheckAfterAFailedRead();
     void labelCheckSparesExtendedCodes();
-    void refusedPickIsTakenBackInAdvancedMode();
+    void refusedPickIsTakenBack_data();
+    void refusedPickIsTakenBack();
+    void isStoredBeforeItIsTold();
 
     void stagingBacksUp();
     void stagingAgainKeepsTheFirstBackup();
@@ -478,17 +480,46 @@ void tst_AssignLogic::labelCheckSparesExtendedCodes()
     QCOMPARE(m->key(7)->text(), QString("M3"));
 }
 
-void tst_AssignLogic::refusedPickIsTakenBackInAdvancedMode()
+void tst_AssignLogic::refusedPickIsTakenBack_data()
 {
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("input");
+    QTest::addColumn<int>("announced");
+    QTest::newRow("macro list") << 0 << 3 << 0;
+    QTest::newRow("application panel") << 0 << 5 << 1;
+    QTest::newRow("dialog") << 1 << 3 << 1;
+}
+
+void tst_AssignLogic::refusedPickIsTakenBack()
+{
+    QFETCH(int, mode);
+    QFETCH(int, input);
+    QFETCH(int, announced);
+    m->profile().keys[7] = plainKey(9);
+    m->board.showProfile(7, 3);
     m->select(7);
+    m->profile().mode = mode;
+    m->profile().input = input;
     m->store.canAddMacro = false;
     QSignalSpy told(&m->board, &AssignWid::sigVantrixKeySelected);
-    m->board.slotMacroAssigned(true, "M3", "three");
-    QCOMPARE(told.count(), 0);
-    m->profile().mode = 1;
-    m->board.slotMacroAssigned(true, "M3", "three");
-    QCOMPARE(told.count(), 1);
-    QCOMPARE(told.at(0).at(0).value<vantrix_key_mapping>(), plainKey(255));
+    if (input == 5)
+        m->board.slotApplicationAssigned(0, 3);
+    else
+        m->board.slotMacroAssigned(true, "M3", "three");
+    QCOMPARE(m->warnings.size(), 1);
+    QCOMPARE(m->writes(), QStringList());
+    QCOMPARE(told.count(), announced);
+    if (announced == 1)
+        QCOMPARE(told.at(0).at(0).value<vantrix_key_mapping>(), plainKey(9));
+}
+
+void tst_AssignLogic::isStoredBeforeItIsTold()
+{
+    m->select(7);
+    vantrix_key_mapping stored;
+    connect(&m->board, &AssignWid::sigUpdateVantrixKey, this, [&] { stored = m->stored(7); });
+    m->board.slotVantrixKeyAssigned(plainKey(5));
+    QCOMPARE(stored, plainKey(5));
 }
 
 void tst_AssignLogic::stagingBacksUp()

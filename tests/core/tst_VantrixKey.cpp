@@ -58,6 +58,8 @@ private slots:
     void updateStylesOnce();
     void fixedSizeSurvivesStyles();
     void tipShowsBesideADualActionKey();
+    void tipFollowsTheKey();
+    void ampersandsOfNames();
     void tipMayGoFirst();
 
 private:
@@ -377,6 +379,36 @@ void tst_VantrixKey::tipShowsBesideADualActionKey()
     m_key->setMapping(2, plainKey(5));
     enter();
     QVERIFY(!tip()->isVisible());
+}
+
+void tst_VantrixKey::tipFollowsTheKey()
+{
+    m_key->setMapping(2, dualKey(4, 5, 50));
+    enter();
+    m_key->setMapping(2, dualKey(4, 6, 50));
+    QVERIFY(tip()->isVisible());
+    QCOMPARE(child<QLabel>(tip(), "m_action2")->text(), QString("  ACTION2 - C"));
+    m_key->setMapping(2, plainKey(5));
+    QVERIFY(!tip()->isVisible());
+    m_key->setMapping(2, dualKey(4, 5, 50));
+    QVERIFY(!tip()->isVisible());
+    enter();
+    m_key->showMacro("M1", "one");
+    QVERIFY(!tip()->isVisible());
+}
+
+void tst_VantrixKey::ampersandsOfNames()
+{
+    m_key->setMapping(2, plainKey(255));
+    m_key->showHotKey("F1", "A&B");
+    QCOMPARE(m_key->text(), QString("A&&B"));
+    QCOMPARE(m_key->fullText(), QString("A&B"));
+    QVERIFY(m_key->shortcut().isEmpty());
+    m_key->setMapping(2, plainKey(0x24));
+    QCOMPARE(m_key->text(), QString("7\n&&"));
+    m_key->setInfo("C&D");
+    m_key->setMapping(2, plainKey(0xC5));
+    QCOMPARE(m_key->text(), QString("C&&D"));
 }
 
 void tst_VantrixKey::tipMayGoFirst()

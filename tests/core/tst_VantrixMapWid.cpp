@@ -55,6 +55,8 @@ private slots:
     void sameModeClickWritesNothing();
     void inputClick();
     void sidePanelChecksTheStoredPreset();
+    void sidePanelGoesWithAnOddInput();
+    void modeIsStoredLast();
     void sidePanelRule_data();
     void sidePanelRule();
     void foldedSidePanelLeavesThePressureSwitch_data();
@@ -118,10 +120,12 @@ void tst_VantrixMapWid::legend()
         QWidget *const widget = row->itemAt(i)->widget();
         if (!widget)
             ++stretches;
-        else if (auto *const label = qobject_cast<QLabel *>(widget))
+        else if (auto *const label = qobject_cast<QLabel *>(widget)) {
             texts << label->text();
-        else
+            QCOMPARE(label->sizePolicy(), QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed));
+        } else {
             QCOMPARE(widget->size(), QSize(30, 30));
+        }
     }
     QCOMPARE(texts, expected);
     QCOMPARE(stretches, 11);
@@ -448,6 +452,29 @@ void tst_VantrixMapWid::sidePanelChecksTheStoredPreset()
     QCOMPARE(m_store->writes(), QStringList({"setInput 5 2 10"}));
 }
 
+/// Inputs 11 and 12 have no button that would tell of them.
+void tst_VantrixMapWid::sidePanelGoesWithAnOddInput()
+{
+    QWidget *const side = find<QWidget>("m_sidePanelWid");
+    profile().input = 10;
+    m_page->updateUi(2);
+    QVERIFY(!side->isHidden());
+    profile().input = 12;
+    m_page->updateUi(2);
+    QVERIFY(side->isHidden());
+}
+
+void tst_VantrixMapWid::modeIsStoredLast()
+{
+    clickOn(key(7));
+    m_store->clearLog();
+    click("m_advanced");
+    QCOMPARE(m_store->calls().last(), QString("setMode 5 2 1"));
+    m_store->clearLog();
+    click("m_simple");
+    QCOMPARE(m_store->calls().last(), QString("setMode 5 2 0"));
+}
+
 void tst_VantrixMapWid::sidePanelRule_data()
 {
     QTest::addColumn<int>("way");
@@ -763,7 +790,11 @@ void tst_VantrixMapWid::deletionRenumbersTheFaces()
         return QStringList({key(7)->text(), key(8)->text(), key(9)->text()});
     };
     QCOMPARE(faces().mid(0, 2), QStringList({"M1", "M2"}));
+    m_store->clearLog();
     m_page->slotDelKeyAssignMacro("one");
+    const QStringList calls = m_store->calls();
+    QVERIFY(calls.lastIndexOf("getKeysOfMacro 5 2 two") >= 0);
+    QVERIFY(calls.indexOf("delNamedMacro 5 2 one") > calls.lastIndexOf("getKeysOfMacro 5 2 two"));
     m_page->slotUpdateMacroAssign();
     QCOMPARE(profile().keys.at(7), plainKey(255));
     QVERIFY(key(7)->text() != QString("M1"));

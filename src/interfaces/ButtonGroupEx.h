@@ -8,8 +8,8 @@
 /// A group of checkable buttons of which at most one is checked, and a click on the checked one
 /// unchecks it. Buttons stay owned by their parents.
 ///
-/// Mouse, Space, `click()` and `animateClick()` count as clicks; setting the check state from code
-/// does not.
+/// Mouse, Space, Enter, `click()` and `animateClick()` count as clicks; setting the check state
+/// from code does not.
 ///
 /// By keyboard, Tab goes to the group's first visible button and then on behind the group; arrows
 /// go from one button to the nearest one in their direction, without checking it.

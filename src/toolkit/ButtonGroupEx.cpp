@@ -44,6 +44,25 @@ void scrollTo(QWidget *widget)
     }
 }
 
+bool isEnter(const QKeyEvent *key)
+{
+    return (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) &&
+           (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+/// Clicks as the key comes up, as Space does: a click may hand the keyboard to somebody else.
+void workByEnter(QAbstractButton *button, const QKeyEvent *key)
+{
+    if (key->isAutoRepeat())
+        return;
+    if (key->type() == QEvent::KeyPress) {
+        button->setDown(true);
+    } else if (button->isDown()) {
+        button->setDown(false);
+        button->click();
+    }
+}
+
 } // namespace
 
 ButtonGroupEx::ButtonGroupEx(QObject *parent) : QButtonGroup(parent)
@@ -103,8 +122,15 @@ void ButtonGroupEx::followFocus(QWidget *now)
 
 bool ButtonGroupEx::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress && watched == m_focused) {
-        if (QAbstractButton *const next = nearest(static_cast<QKeyEvent *>(event)->key())) {
+    const bool isPress = event->type() == QEvent::KeyPress;
+    if (watched == m_focused && (isPress || event->type() == QEvent::KeyRelease)) {
+        auto *const button = static_cast<QAbstractButton *>(watched);
+        const auto *const key = static_cast<QKeyEvent *>(event);
+        if (isEnter(key)) {
+            workByEnter(button, key);
+            return true;
+        }
+        if (QAbstractButton *const next = isPress ? nearest(key->key()) : nullptr) {
             next->setFocus(Qt::TabFocusReason);
             scrollTo(next);
             return true;

@@ -168,7 +168,7 @@ void tst_AdvancedRoad::record()
         const auto *const picked = qobject_cast<QPushButton *>(QApplication::focusWidget());
         QVERIFY(picked);
         QCOMPARE(picked->text(), QStringLiteral("SCROLL UP"));
-        XGestures::key(QStringLiteral("space"));
+        XGestures::key(QStringLiteral("Return"));
         QVERIFY(picked->isChecked());
         QCOMPARE(ushort(stored(7).code), ushort(255));
         tabTo(QStringLiteral("m_apply"));

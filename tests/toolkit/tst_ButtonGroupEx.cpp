@@ -2,6 +2,7 @@
 #include "support/Gestures.h"
 #include "support/TestMain.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
@@ -24,6 +25,10 @@ private slots:
     void stateHasChangedWhenTheClickIsTold();
     void arrowsGoToTheNearest();
     void arrowsPassWhatCannotBeUsed();
+    void enterChecks_data();
+    void enterChecks();
+    void heldEnterChecksOnce();
+    void enterWithAModifierIsForOthers();
     void arrowsScroll();
     void tabPassesTheGroup();
     void tabReachesTheGroupAgain();
@@ -215,6 +220,61 @@ void tst_ButtonGroupEx::arrowsPassWhatCannotBeUsed()
     QCOMPARE(square.press(Qt::Key_Right), 2);
     square.buttons.at(3)->setFocus();
     QCOMPARE(square.press(Qt::Key_Right), 5);
+}
+
+void tst_ButtonGroupEx::enterChecks_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("return") << Qt::Key_Return;
+    QTest::newRow("enter") << Qt::Key_Enter;
+}
+
+/// As it comes up, like Space: whoever takes the keyboard on the click is not to see the key.
+void tst_ButtonGroupEx::enterChecks()
+{
+    QFETCH(Qt::Key, key);
+    const auto modifiers = key == Qt::Key_Enter ? Qt::KeypadModifier : Qt::NoModifier;
+    Square square;
+    QSignalSpy clicked(square.group, &ButtonGroupEx::sigButtonClicked);
+    QPushButton *const button = square.buttons.at(3);
+    button->setFocus();
+    for (int times = 1; times <= 2; ++times) {
+        QTest::keyPress(button, key, modifiers);
+        QVERIFY(button->isDown());
+        QCOMPARE(clicked.count(), times - 1);
+        QTest::keyRelease(button, key, modifiers);
+        QVERIFY(!button->isDown());
+        QCOMPARE(clicked.count(), times);
+        QCOMPARE(square.group->checkedId(), times == 1 ? 3 : -1);
+    }
+    // The release of an Enter that went down elsewhere.
+    QTest::keyRelease(button, key, modifiers);
+    QCOMPARE(clicked.count(), 2);
+}
+
+void tst_ButtonGroupEx::heldEnterChecksOnce()
+{
+    Square square;
+    QSignalSpy clicked(square.group, &ButtonGroupEx::sigButtonClicked);
+    QPushButton *const button = square.buttons.at(3);
+    button->setFocus();
+    QTest::keyPress(button, Qt::Key_Return);
+    for (const QEvent::Type type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent repeat(type, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+        QCoreApplication::sendEvent(button, &repeat);
+    }
+    QCOMPARE(clicked.count(), 0);
+    QTest::keyRelease(button, Qt::Key_Return);
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_ButtonGroupEx::enterWithAModifierIsForOthers()
+{
+    Square square;
+    QSignalSpy clicked(square.group, &ButtonGroupEx::sigButtonClicked);
+    square.buttons.at(3)->setFocus();
+    pressKey(square.buttons.at(3), Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(clicked.count(), 0);
 }
 
 void tst_ButtonGroupEx::arrowsScroll()

@@ -1,27 +1,24 @@
+#include "ShellRoad.h"
 #include "XGestures.h"
 #include "advanced/ReassignDlg.h"
 #include "interfaces/Modal.h"
-#include "shell/MainWindow.h"
 #include "shell/MappingView.h"
-#include "support/Gestures.h"
 #include "support/TestMain.h"
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QStackedWidget>
-#include <QTemporaryDir>
 
 #include <memory>
 
 /// Advanced mode by keyboard alone, from selecting a key to APPLY on the page.
-class tst_AdvancedRoad : public QObject
+class tst_AdvancedRoad : public QObject, ShellRoad
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { quit(); }
 
     void record();
     void hotKey();
@@ -39,38 +36,14 @@ private:
     /// Goes on with arrows, from one button of a group to another.
     void arrowTo(const QPushButton *button);
     static QString focusName();
-    vantrix_key_mapping stored(int keyIdx) const
-    {
-        return m_services->store().state().mapping(0, 0, keyIdx);
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<HostServices> m_services;
-    std::unique_ptr<ShellContext> m_context;
-    std::unique_ptr<MainWindow> m_window;
 };
 
 void tst_AdvancedRoad::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_services = std::make_unique<HostServices>(m_folder->path());
-    m_context = std::make_unique<ShellContext>(*m_services);
-    m_window = std::make_unique<MainWindow>(*m_context);
-    m_window->move(0, 0);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    XGestures::focus(m_window.get());
+    forget();
+    start();
     QVERIFY(XGestures::setLayout(QStringLiteral("us")));
     openAdvanced();
-}
-
-void tst_AdvancedRoad::cleanup()
-{
-    m_window->close();
-    m_window.reset();
-    m_context.reset();
-    m_services.reset();
-    m_folder.reset();
 }
 
 QString tst_AdvancedRoad::focusName()

@@ -1,23 +1,20 @@
+#include "ShellRoad.h"
 #include "XGestures.h"
 #include "core/VantrixMapWid.h"
 #include "dualaction/ActionAssignWid.h"
 #include "dualaction/ActionWid.h"
 #include "panels/InputWid.h"
-#include "shell/MainWindow.h"
 #include "shell/MappingView.h"
-#include "support/Gestures.h"
 #include "support/TestMain.h"
 
 #include <QApplication>
 #include <QButtonGroup>
-#include <QPushButton>
-#include <QTemporaryDir>
 
 #include <functional>
 #include <memory>
 
 /// A person gives keys two actions, with real keys and the mouse, and sends them to the device.
-class tst_DualRoad : public QObject
+class tst_DualRoad : public QObject, ShellRoad
 {
     Q_OBJECT
 
@@ -32,47 +29,25 @@ private slots:
     void byKeyboardAlone();
 
 private:
-    QPushButton *key(int keyIdx)
-    {
-        return child<QPushButton>(m_window.get(), QStringLiteral("key_%1").arg(keyIdx));
-    }
     ActionAssignWid *overlay() { return m_window->findChild<ActionAssignWid *>("m_overlay"); }
     void open(int number, int input);
     void closeWith(const char *button);
     bool isHoleAroundTheKeys();
     void tabTo(const QString &name);
     static QWidget *tabOnTo(const std::function<bool(QWidget *)> &isThere);
-    vantrix_key_mapping stored(int keyIdx)
-    {
-        return m_services->store().state().mapping(0, 0, keyIdx);
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<HostServices> m_services;
-    std::unique_ptr<ShellContext> m_context;
-    std::unique_ptr<MainWindow> m_window;
 };
 
 void tst_DualRoad::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_services = std::make_unique<HostServices>(m_folder->path());
-    m_context = std::make_unique<ShellContext>(*m_services);
-    m_window = std::make_unique<MainWindow>(*m_context);
-    m_window->move(0, 0);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    XGestures::focus(m_window.get());
+    forget();
+    start();
     auto *const inputs = m_window->findChild<InputWid *>();
     XGestures::click(inputs->findChild<QButtonGroup *>()->button(6));
 }
 
 void tst_DualRoad::cleanup()
 {
-    m_window->close();
-    m_window.reset();
-    m_context.reset();
-    m_services.reset();
+    quit();
     QVERIFY(!QWidget::keyboardGrabber());
 }
 

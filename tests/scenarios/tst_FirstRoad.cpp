@@ -1,15 +1,11 @@
+#include "ShellRoad.h"
 #include "XGestures.h"
 #include "core/VantrixMapWid.h"
-#include "shell/MainWindow.h"
 #include "shell/MappingView.h"
-#include "support/Gestures.h"
 #include "support/TestMain.h"
-#include "vocabulary/KeyLegends.h"
 
 #include <QProcess>
-#include <QPushButton>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -35,10 +31,12 @@ const Press presses[] = {
 };
 // clang-format on
 
+constexpr int German = 4; // in LanguageIndex
+
 } // namespace
 
 /// A person puts real keys on keys of the pad, applies, closes the program and opens it again.
-class tst_FirstRoad : public QObject
+class tst_FirstRoad : public QObject, ShellRoad
 {
     Q_OBJECT
 
@@ -46,41 +44,10 @@ private slots:
     void road();
 
 private:
-    void open();
-    void close();
     void pressAll();
     void compareStore(const StoreState &state);
     QString printed() const;
-    QPushButton *key(int keyIdx)
-    {
-        return child<QPushButton>(m_window.get(), QStringLiteral("key_%1").arg(keyIdx));
-    }
-
-    QTemporaryDir m_folder;
-    std::unique_ptr<HostServices> m_services;
-    std::unique_ptr<ShellContext> m_context;
-    std::unique_ptr<MainWindow> m_window;
 };
-
-void tst_FirstRoad::open()
-{
-    m_services = std::make_unique<HostServices>(m_folder.path());
-    m_services->environment().setLanguage(LanguageIndex().at(QStringLiteral("German")));
-    m_context = std::make_unique<ShellContext>(*m_services);
-    m_window = std::make_unique<MainWindow>(*m_context);
-    m_window->move(0, 0);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    XGestures::focus(m_window.get());
-}
-
-void tst_FirstRoad::close()
-{
-    m_window->close();
-    m_window.reset();
-    m_context.reset();
-    m_services.reset();
-}
 
 void tst_FirstRoad::pressAll()
 {
@@ -106,7 +73,7 @@ QString tst_FirstRoad::printed() const
 {
     QProcess shell;
     shell.start(QStringLiteral(SHELL_PROGRAM),
-                {QStringLiteral("--data"), m_folder.path(), QStringLiteral("--print-profile")});
+                {QStringLiteral("--data"), m_folder->path(), QStringLiteral("--print-profile")});
     shell.waitForFinished();
     return QString::fromUtf8(shell.readAllStandardOutput());
 }
@@ -114,13 +81,13 @@ QString tst_FirstRoad::printed() const
 void tst_FirstRoad::road()
 {
     QVERIFY(XGestures::setLayout(QStringLiteral("de")));
-    open();
+    start(German);
     pressAll();
     for (const Press &press : presses)
         QCOMPARE(key(press.keyIdx)->text().simplified(), QString::fromUtf8(press.legend));
-    XGestures::click(child<QPushButton>(m_window.get(), "m_apply"));
-    compareStore(m_services->store().state());
-    close();
+    XGestures::click(get<QPushButton>("m_apply"));
+    compareStore(state());
+    quit();
 
     const QString text = printed();
     for (const Press &press : presses) {
@@ -130,11 +97,11 @@ void tst_FirstRoad::road()
         QCOMPARE(text.count(row), 2); // store and device
     }
 
-    open();
-    compareStore(m_services->store().state());
+    start(German);
+    compareStore(state());
     for (const Press &press : presses)
         QCOMPARE(key(press.keyIdx)->text().simplified(), QString::fromUtf8(press.legend));
-    close();
+    quit();
 }
 
 VANTRIX_TEST_MAIN(tst_FirstRoad)

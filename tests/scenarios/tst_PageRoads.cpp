@@ -1,12 +1,11 @@
+#include "ShellRoad.h"
 #include "XGestures.h"
 #include "shell/CheckPage.h"
 #include "shell/DeviceView.h"
 #include "shell/ExportDlg.h"
 #include "shell/ImportDlg.h"
 #include "shell/MacroPage.h"
-#include "shell/MainWindow.h"
 #include "shell/PadView.h"
-#include "support/Gestures.h"
 #include "support/TestMain.h"
 
 #include <QAction>
@@ -16,24 +15,28 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QTableView>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QTreeWidget>
 
 #include <functional>
 #include <memory>
 
+namespace {
+
+constexpr int English = 2; // in LanguageIndex
+
+} // namespace
+
 /// Stories on the pages beside the mapping page, with real mouse and keyboard.
-class tst_PageRoads : public QObject
+class tst_PageRoads : public QObject, ShellRoad
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { quit(); }
     void macroForAKeyAndBack();
     void macroFromTheDialogAndBack();
     void macroFromRecordingToDeletion();
@@ -43,15 +46,6 @@ private slots:
     void checkLeadsToTheKey();
 
 private:
-    template <typename T>
-    T *get(const char *name)
-    {
-        return child<T>(m_window.get(), QString::fromLatin1(name));
-    }
-    QPushButton *key(int keyIdx)
-    {
-        return get<QPushButton>(qPrintable(QStringLiteral("key_%1").arg(keyIdx)));
-    }
     /// The button that a person would find by these words.
     QAbstractButton *shown(const QString &text, const QWidget *within = nullptr)
     {
@@ -93,35 +87,12 @@ private:
             XGestures::key(QStringLiteral("Return"));
         });
     }
-    ProfileStore &store() { return m_services->store(); }
-    const StoreState &state() { return store().state(); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<HostServices> m_services;
-    std::unique_ptr<ShellContext> m_context;
-    std::unique_ptr<MainWindow> m_window;
 };
 
 void tst_PageRoads::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_services = std::make_unique<HostServices>(m_folder->path());
-    m_services->environment().setLanguage(2);
-    m_context = std::make_unique<ShellContext>(*m_services);
-    m_window = std::make_unique<MainWindow>(*m_context);
-    m_window->resize(1280, 900);
-    m_window->move(0, 0);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    XGestures::focus(m_window.get());
-}
-
-void tst_PageRoads::cleanup()
-{
-    m_window->close();
-    m_window.reset();
-    m_context.reset();
-    m_services.reset();
+    forget();
+    start(English, QSize(1280, 900));
 }
 
 void tst_PageRoads::macroForAKeyAndBack()

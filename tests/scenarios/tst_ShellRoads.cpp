@@ -1,10 +1,9 @@
+#include "ShellRoad.h"
 #include "XGestures.h"
 #include "core/VantrixMapWid.h"
 #include "shell/Language.h"
-#include "shell/MainWindow.h"
 #include "shell/MappingView.h"
 #include "shell/PadView.h"
-#include "support/Gestures.h"
 #include "support/TestMain.h"
 
 #include <QAction>
@@ -13,8 +12,6 @@
 #include <QFile>
 #include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -31,7 +28,7 @@ constexpr int SettleMs = 300;
 } // namespace
 
 /// Stories of a session in the shell's window, with real mouse and keyboard.
-class tst_ShellRoads : public QObject
+class tst_ShellRoads : public QObject, ShellRoad
 {
     Q_OBJECT
 
@@ -51,15 +48,8 @@ private slots:
     void keyboardAlone();
 
 private:
-    void open();
-    void close();
     /// Works a dialog that `shortcut` or a click opens: `work` runs while it is open.
     void inDialog(const std::function<void()> &opener, const std::function<void()> &work);
-    template <typename T>
-    T *get(const char *name)
-    {
-        return child<T>(m_window.get(), QString::fromLatin1(name));
-    }
     /// A button of the page by its text.
     void click(const char *text)
     {
@@ -70,47 +60,18 @@ private:
         }
         QFAIL(text);
     }
-    QPushButton *key(int keyIdx)
-    {
-        return get<QPushButton>(qPrintable(QStringLiteral("key_%1").arg(keyIdx)));
-    }
-    const StoreState &state() { return m_services->store().state(); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<HostServices> m_services;
-    std::unique_ptr<ShellContext> m_context;
-    std::unique_ptr<MainWindow> m_window;
 };
 
 void tst_ShellRoads::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    open();
+    forget();
+    start();
 }
 
 void tst_ShellRoads::cleanup()
 {
-    close();
+    quit();
     Language::install(Language::parse(QStringLiteral("English")));
-}
-
-void tst_ShellRoads::open()
-{
-    m_services = std::make_unique<HostServices>(m_folder->path());
-    m_context = std::make_unique<ShellContext>(*m_services);
-    m_window = std::make_unique<MainWindow>(*m_context);
-    m_window->move(0, 0);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-    XGestures::focus(m_window.get());
-}
-
-void tst_ShellRoads::close()
-{
-    m_window->close();
-    m_window.reset();
-    m_context.reset();
-    m_services.reset();
 }
 
 void tst_ShellRoads::profiles()
@@ -141,8 +102,8 @@ void tst_ShellRoads::undoAcrossRestart()
     XGestures::click(key(7));
     XGestures::key(QStringLiteral("b"));
     QCOMPARE(key(7)->text(), QStringLiteral("B"));
-    close();
-    open();
+    quit();
+    start();
     QVERIFY(key(7)->isChecked());
     XGestures::click(key(7)); // gives the keyboard back
     XGestures::key(QStringLiteral("ctrl+z"));
@@ -202,7 +163,7 @@ void tst_ShellRoads::macroIsRecordedAndAssigned()
     XGestures::key(QStringLiteral("h"));
     XGestures::key(QStringLiteral("i"));
     XGestures::click(get<QPushButton>("m_recordBtn"));
-    m_services->store().flush();
+    store().flush();
     const auto macro = state().macro(0, name);
     QVERIFY(macro);
     QCOMPARE(int(macro->count), 4);
@@ -235,7 +196,7 @@ void tst_ShellRoads::exportAndImport()
     XGestures::click(key(7));
     XGestures::click(get<QPushButton>("btn_48"));
     XGestures::click(key(7));
-    m_services->store().flush();
+    store().flush();
     const QString file = m_folder->filePath(QStringLiteral("kept.json"));
     const ProfileKeys before = state().keys(0, 0);
     inDialog([this] { get<QAction>("m_exportAction")->trigger(); },
@@ -248,8 +209,8 @@ void tst_ShellRoads::exportAndImport()
                           });
              });
     QTRY_VERIFY(QFile::exists(file));
-    m_services->store().clearProfile(0, 0);
-    m_services->store().flush();
+    store().clearProfile(0, 0);
+    store().flush();
     QCOMPARE(key(7)->text(), QStringLiteral("W"));
     inDialog([this] { get<QAction>("m_importAction")->trigger(); },
              [&] {
@@ -285,20 +246,20 @@ void tst_ShellRoads::devicePlays()
 void tst_ShellRoads::findGoesThere()
 {
     const vantrix_key_mapping mapping = plainKey(69);
-    m_services->store().setKeyMapping(0, 4, 12, &mapping);
-    m_services->store().flush();
+    store().setKeyMapping(0, 4, 12, &mapping);
+    store().flush();
     XGestures::key(QStringLiteral("ctrl+f"));
     XGestures::type(QStringLiteral("f12"));
     XGestures::key(QStringLiteral("Return"));
     QCOMPARE(m_context->profile(), 4);
     QVERIFY(key(12)->isChecked());
-    QCOMPARE(m_services->store().getCurrentKey(0, 4), 12);
+    QCOMPARE(store().getCurrentKey(0, 4), 12);
 }
 
 void tst_ShellRoads::checkLeadsToTheKey()
 {
-    m_services->store().setNamedMacroKey(0, 0, "Lost", 9);
-    m_services->store().flush();
+    store().setNamedMacroKey(0, 0, "Lost", 9);
+    store().flush();
     XGestures::key(QStringLiteral("ctrl+6"));
     QPushButton *chip = nullptr;
     const auto buttons = get<QWidget>("m_checkPage")->findChildren<QPushButton *>();
@@ -315,8 +276,8 @@ void tst_ShellRoads::checkLeadsToTheKey()
 void tst_ShellRoads::settingsChangeTheLegends()
 {
     m_services->environment().setLanguage(2);
-    m_services->store().setSetting(QStringLiteral("language"), QStringLiteral("2"));
-    m_services->store().flush();
+    store().setSetting(QStringLiteral("language"), QStringLiteral("2"));
+    store().flush();
     XGestures::click(key(16));
     XGestures::click(get<QPushButton>("m_tab1")); // the page lets go of the keyboard
     inDialog([] { XGestures::key(QStringLiteral("ctrl+comma")); },

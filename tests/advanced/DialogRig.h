@@ -10,6 +10,7 @@
 #include "fakes/FakeServices.h"
 #include "interfaces/Modal.h"
 #include "macro/MacroAdvWid.h"
+#include "support/DualKey.h"
 #include "support/Gestures.h"
 #include <QtTest>
 
@@ -22,16 +23,6 @@
 #include <QWindow>
 
 #include <memory>
-
-inline vantrix_key_mapping dualKey(ushort first, ushort second)
-{
-    vantrix_key_mapping key;
-    key.type = 3;
-    key.digital.firstAction = first;
-    key.digital.secondAction = second;
-    key.digital.depth = 40;
-    return key;
-}
 
 inline vantrix_key_mapping labelKey()
 {

@@ -9,6 +9,7 @@
 #include "fakes/FakeServices.h"
 #include "interfaces/Modal.h"
 #include "macro/MacroAdvWid.h"
+#include "support/DualKey.h"
 #include "support/Gestures.h"
 #include <QtTest>
 
@@ -17,16 +18,6 @@
 #include <QStackedWidget>
 
 #include <memory>
-
-inline vantrix_key_mapping dualKey(ushort first, ushort second)
-{
-    vantrix_key_mapping key;
-    key.type = 3;
-    key.digital.firstAction = first;
-    key.digital.secondAction = second;
-    key.digital.depth = 50;
-    return key;
-}
 
 inline QString frameOf(const QString &color)
 {

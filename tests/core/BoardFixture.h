@@ -4,6 +4,7 @@
 #include "fakes/FakeProfileCfg.h"
 #include "fakes/FakeServices.h"
 #include "interfaces/Modal.h"
+#include "support/DualKey.h"
 #include "support/Gestures.h"
 
 #include <QSignalSpy>
@@ -54,14 +55,4 @@ inline QStringList extrasCleared(int index)
     const QString key = QString::number(index);
     return {"delAppAssign " + key, "delHotKeyAssign " + key, "delNamedMacroKey " + key,
             "delShortcutAssign " + key, "delExtendedKey " + key};
-}
-
-inline vantrix_key_mapping dualKey(ushort first, ushort second, uchar depth)
-{
-    vantrix_key_mapping key;
-    key.type = 3;
-    key.digital.firstAction = first;
-    key.digital.secondAction = second;
-    key.digital.depth = depth;
-    return key;
 }

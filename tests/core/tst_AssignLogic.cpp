@@ -146,8 +146,8 @@ void tst_AssignLogic::plainTypes_data()
     QTest::newRow("plain") << plainKey(5) << plainKey(5);
     QTest::newRow("disabled") << plainKey(0) << plainKey(0);
     QTest::newRow("game") << gameKey(474) << gameKey(474);
-    QTest::newRow("dual") << dualKey(4, 5, 30) << dualKey(4, 5, 30);
-    QTest::newRow("dual without a first action") << dualKey(0, 5, 30) << plainKey(255);
+    QTest::newRow("dual") << dualKey(4, 5, 0, 30) << dualKey(4, 5, 0, 30);
+    QTest::newRow("dual without a first action") << dualKey(0, 5, 0, 30) << plainKey(255);
 }
 
 void tst_AssignLogic::plainTypes()
@@ -444,7 +444,7 @@ void tst_AssignLogic::labelCheck()
     profile.hotKeys[2] = {0, "F1", "Help"};
     profile.shortcuts[3] = 4;
     profile.extended[4].code = 2816;
-    profile.keys[6] = dualKey(4, 5, 50);
+    profile.keys[6] = dualKey(4, 5, 0, 50);
     m->board.showProfile(7, 3);
     m->board.slotAssignedKey("M3", "three", {{5, 0}});
     profile.hotKeys.clear();
@@ -557,16 +557,16 @@ void tst_AssignLogic::stagingNothingClears()
 
 void tst_AssignLogic::depthOfAnAppliedKey()
 {
-    m->profile().keys[7] = dualKey(4, 5, 50);
+    m->profile().keys[7] = dualKey(4, 5, 0, 50);
     m->board.showProfile(7, 3);
     m->select(7);
     QSignalSpy told(&m->board, &AssignWid::sigDualActionSelectedToAdv);
     m->board.slotDualActionDepthChanged(70);
     QCOMPARE(m->calls(), QStringList({"getCurrentKey", "setKeyMapping 7", "setProfileDirty 1"}));
-    QCOMPARE(m->stored(7), dualKey(4, 5, 70));
+    QCOMPARE(m->stored(7), dualKey(4, 5, 0, 70));
     QCOMPARE(m->key(7)->text(), QString("70%"));
     QCOMPARE(told.count(), 1);
-    QCOMPARE(told.at(0).at(0).value<vantrix_key_mapping>(), dualKey(4, 5, 70));
+    QCOMPARE(told.at(0).at(0).value<vantrix_key_mapping>(), dualKey(4, 5, 0, 70));
 }
 
 void tst_AssignLogic::depthOfAStagedKey()
@@ -620,7 +620,7 @@ void tst_AssignLogic::backRestoresAll()
     profile.keys[0] = plainKey(9);
     profile.keys[1] = plainKey(244);
     profile.keys[2] = gameKey(474);
-    profile.keys[3] = dualKey(4, 5, 30);
+    profile.keys[3] = dualKey(4, 5, 0, 30);
     profile.apps[4] = {1, 3, {}};
     profile.hotKeys[5] = {0, "CTRL+S", "Save"};
     profile.extended[7].code = 2816;
@@ -672,7 +672,7 @@ void tst_AssignLogic::backAfterAFailedRead()
 
 void tst_AssignLogic::backWithNoEntries()
 {
-    m->profile().keys[7] = dualKey(4, 5, 30);
+    m->profile().keys[7] = dualKey(4, 5, 0, 30);
     m->board.showProfile(7, 3);
     m->key(7)->click();
     m->board.slotDualActionDepthChanged(70); // an entry without a backup
@@ -999,7 +999,7 @@ void tst_AssignLogic::profileSwitchStylesWhatChanged()
         stored.hotKeys[4] = {0, "F1", "Help"};
         stored.shortcuts[5] = 2;
         stored.extended[6].code = 2816;
-        stored.keys[7] = dualKey(4, 5, uchar(30 + profile));
+        stored.keys[7] = dualKey(4, 5, 0, 30 + profile);
         stored.keys[8] = gameKey(474);
     }
     m->store.profile(7, 4).keys[0] = gameKey(475);

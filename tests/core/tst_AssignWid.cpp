@@ -249,9 +249,9 @@ void tst_AssignWid::announcement()
     else if (kind == 3)
         profile.hotKeys[2] = {0, "CTRL+S", "Save"};
     else if (kind == 4)
-        profile.keys[2] = dualKey(4, 481, 60);
+        profile.keys[2] = dualKey(4, 481, 0, 60);
     else if (kind == 5)
-        profile.keys[2] = dualKey(0, 481, 60);
+        profile.keys[2] = dualKey(0, 481, 0, 60);
     m->board.showProfile(7, 3);
     if (kind == 6)
         m->board.slotAssignedKey("M2", "two", {{2, 1}});

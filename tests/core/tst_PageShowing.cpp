@@ -67,8 +67,8 @@ void tst_PageShowing::assignEverything()
         stored.keys[std::size_t(index)] = plainKey(codes[index]);
     stored.keys[20] = gameKey(474);
     stored.keys[21] = gameKey(2265);
-    stored.keys[22] = dualKey(4, 481, 50);
-    stored.keys[23] = dualKey(240, 0, 10);
+    stored.keys[22] = dualKey(4, 481, 0, 50);
+    stored.keys[23] = dualKey(240, 0, 0, 10);
     for (int index : {24, 25, 26, 27, 18, 19})
         stored.keys[std::size_t(index)] = plainKey(255);
     stored.apps[24] = {0, 3, {}};

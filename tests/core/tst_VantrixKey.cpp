@@ -154,7 +154,7 @@ void tst_VantrixKey::infoOfTheCompanionKey()
 
 void tst_VantrixKey::dualAction()
 {
-    m_key->setMapping(2, dualKey(4, 5, 50));
+    m_key->setMapping(2, dualKey(4, 5, 0, 50));
     QCOMPARE(m_key->text(), QString("50%"));
     QCOMPARE(m_key->styleSheet(), colors("3cb878"));
     m_key->setDepth(70);
@@ -164,7 +164,7 @@ void tst_VantrixKey::dualAction()
 
 void tst_VantrixKey::dualActionWithoutFirstAction()
 {
-    m_key->setMapping(2, dualKey(0, 5, 50));
+    m_key->setMapping(2, dualKey(0, 5, 0, 50));
     QVERIFY(m_key->text() != QString("50%"));
     enter();
     QVERIFY(!tip()->isVisible());
@@ -260,7 +260,7 @@ void tst_VantrixKey::iconGoesWithItsRule()
     QVERIFY(m_key->icon().isNull());
     m_key->setMapping(0, gameKey(474));
     QVERIFY(!m_key->icon().isNull());
-    m_key->setMapping(0, dualKey(4, 5, 50));
+    m_key->setMapping(0, dualKey(4, 5, 0, 50));
     QVERIFY(m_key->icon().isNull());
     m_key->setMapping(0, plainKey(244));
     m_key->setMapping(0, plainKey(5));
@@ -306,7 +306,7 @@ void tst_VantrixKey::labelAndItsEnd()
         if (way == 0)
             m_key->setMapping(0, plainKey(5));
         else if (way == 1)
-            m_key->showDualAction(dualKey(4, 5, 50));
+            m_key->showDualAction(dualKey(4, 5, 0, 50));
         else
             m_key->showStagedDualAction(0, pending);
         QCOMPARE(m_key->label().state, -1);
@@ -366,7 +366,7 @@ void tst_VantrixKey::fixedSizeSurvivesStyles()
 
 void tst_VantrixKey::tipShowsBesideADualActionKey()
 {
-    m_key->setMapping(2, dualKey(0x36, 0x24, 50));
+    m_key->setMapping(2, dualKey(0x36, 0x24, 0, 50));
     enter();
     QVERIFY(tip()->isVisible());
     QCOMPARE(tip()->pos(), QPoint(5 + 20 + 40 + 80, 7 + 30 + 10));
@@ -413,7 +413,7 @@ void tst_VantrixKey::ampersandsOfNames()
 
 void tst_VantrixKey::tipMayGoFirst()
 {
-    m_key->setMapping(2, dualKey(4, 5, 50));
+    m_key->setMapping(2, dualKey(4, 5, 0, 50));
     delete tip();
     enter();
     leave();

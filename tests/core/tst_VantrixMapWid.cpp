@@ -920,7 +920,7 @@ void tst_VantrixMapWid::boardTellsTheMenu()
     QCOMPARE(shown->text(), QString("Save"));
     emit board->sigMacroSelected("M3");
     QCOMPARE(shown->text(), QString("M3"));
-    emit board->sigDualActionSelectedToAdv(dualKey(4, 481, 30));
+    emit board->sigDualActionSelectedToAdv(dualKey(4, 481, 0, 30));
     QCOMPARE(shown->text(), QString("A"));
     QVERIFY(!find<QLabel>("m_dualActionLab")->isHidden());
     emit board->sigApplicationSelected(1, 7);

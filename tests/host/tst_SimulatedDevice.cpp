@@ -1,5 +1,6 @@
 #include "host/ProfileStore.h"
 #include "host/SimulatedDevice.h"
+#include "support/DualKey.h"
 #include "support/TestMain.h"
 
 #include <QTemporaryDir>
@@ -39,14 +40,6 @@ namespace {
 
 constexpr int Owner = 3;
 constexpr int Key = 7; // by default it sends 26
-
-vantrix_key_mapping dualKey(ushort first, ushort second, int type, int depth)
-{
-    vantrix_key_mapping key;
-    key.type = KeyType::DualAction;
-    key.digital = {first, second, quint8(type), quint8(depth)};
-    return key;
-}
 
 /// A store and a device that was sent profile 0 with one key set.
 struct Pad

@@ -3,7 +3,7 @@
 #include "core/records.h"
 
 /// The record of a dual action.
-inline vantrix_key_mapping dualKey(int first, int second, int type, int depth)
+inline vantrix_key_mapping dualKey(int first, int second, int type = 0, int depth = 50)
 {
     vantrix_key_mapping record;
     record.type = 3;

@@ -19,6 +19,7 @@ private slots:
     void clickChangesThePage();
     void controllerPageReadsTheStore();
     void openingTellsThePages();
+    void pagesHearWithTheirPageInFront();
     void lastPickWins_data();
     void lastPickWins();
     void changingThePageKeepsThePick();
@@ -30,6 +31,8 @@ private slots:
     void leavingSendsNothing_data();
     void leavingSendsNothing();
     void newMacroClosesAndDropsThePick();
+    void leavesBeforeItCloses_data();
+    void leavesBeforeItCloses();
     void searchReachesThePages();
     void searchReachesEveryPage_data();
     void searchReachesEveryPage();
@@ -165,6 +168,24 @@ void tst_ReassignDlg::openingTellsThePages()
         pick("mouse");
         QVERIFY(!second->isEnabled());
     });
+}
+
+/// The input is chosen, and the controller page has read the store, when the pages are told.
+void tst_ReassignDlg::pagesHearWithTheirPageInFront()
+{
+    m_dialog->setProfile(2, 5);
+    open(0, 6, dualKey(4, 5), [] {});
+    QStringList heard;
+    connect(m_dialog.get(), &ReassignDlg::sigVantrixKeySelected, this, [&] {
+        const auto *const search = child<QStackedWidget>(m_dialog.get(), "m_searchStack");
+        heard << QString("input %1 page %2 search %3 reads %4")
+                     .arg(input(4)->isChecked())
+                     .arg(page())
+                     .arg(search->currentIndex())
+                     .arg(m_store->calls().filter("getKeyMappings 2 5").size());
+    });
+    open(0, 4, gameKey(462), [] {});
+    QCOMPARE(heard, QStringList{"input 1 page 4 search 0 reads 1"});
 }
 
 void tst_ReassignDlg::lastPickWins_data()
@@ -336,6 +357,37 @@ void tst_ReassignDlg::newMacroClosesAndDropsThePick()
     });
     QCOMPARE(m_sent, QStringList{"create"});
     QCOMPARE(accepted.count(), 1);
+}
+
+void tst_ReassignDlg::leavesBeforeItCloses_data()
+{
+    QTest::addColumn<QString>("picked");
+    QTest::addColumn<QString>("sent");
+    QTest::newRow("record") << "mouse"
+                            << "record 0 496 0 0";
+    QTest::newRow("macro") << "macro"
+                           << "macro 1 M2 Jump -1";
+    QTest::newRow("hot key") << "hotkey"
+                             << "hotkey 'CTRL+S' 'Save'";
+    QTest::newRow("new macro") << ""
+                               << "create";
+}
+
+void tst_ReassignDlg::leavesBeforeItCloses()
+{
+    QFETCH(QString, picked);
+    QFETCH(QString, sent);
+    connect(m_dialog.get(), &QDialog::accepted, this, [this] { m_sent << "accepted"; });
+    open(0, 0, plainKey(7), [&] {
+        m_dialog->show();
+        if (picked.isEmpty()) {
+            emit child<MacroAdvWid>(m_dialog.get(), "m_macro")->sigCreateMacro();
+        } else {
+            pick(picked);
+            button("m_apply")->click();
+        }
+    });
+    QCOMPARE(m_sent, QStringList({sent, "accepted"}));
 }
 
 void tst_ReassignDlg::searchReachesThePages()

@@ -213,6 +213,8 @@ void tst_ApplicationAdvWid::forms()
                                   QStringLiteral("E"));
     HotKey *const key = leaf(group, QStringLiteral("X"));
     QCOMPARE(key->font().pixelSize(), 10);
+    QCOMPARE(int(child<QLayout>(group, "m_layout")->alignment()),
+             int(Qt::AlignTop | Qt::AlignLeft));
     key->click();
     QCOMPARE(key->grab().toImage().pixelColor(2, 2), QColor(132, 50, 155));
 }

@@ -202,7 +202,7 @@ void tst_ApplicationAdvWid::forms()
     QCOMPARE(m_page->findChild<QScrollArea *>()->styleSheet(),
              QStringLiteral("background:transparent;border:none;"));
     const auto sheet = [&](QWidget *wid, int height, int size) {
-        return titleOf(wid)->styleSheet().startsWith(titleSheet.arg(height).arg(size));
+        return titleOf(wid)->styleSheet() == titleSheet.arg(height).arg(size);
     };
     QVERIFY(sheet(level<AppHotKeysWid>(m_page.get(), QStringLiteral("A")), 28, 13));
     QVERIFY(sheet(level<LevelWid>(m_page.get(), QStringLiteral("B")), 25, 12));

@@ -1,6 +1,5 @@
 #include "interfaces/SheetWarnings.h"
 
-#include <QLatin1String>
 #include <QString>
 
 #include <algorithm>
@@ -8,11 +7,12 @@
 
 bool isSheetWarning(const QString &text)
 {
-    constexpr QLatin1String warnings[] = {
-        QLatin1String("Could not parse stylesheet of object Keyboard("),
-        QLatin1String("Specified color without alpha value but alpha given: 'rgb 0,0,0,200'"),
-        QLatin1String("Specified color without alpha value but alpha given: 'rgb 255,255,255,50'"),
+    constexpr const char *warnings[] = {
+        "Could not parse stylesheet of object Keyboard(",
+        "Specified color without alpha value but alpha given: 'rgb 0,0,0,200'",
+        "Specified color without alpha value but alpha given: 'rgb 255,255,255,50'",
     };
-    return std::any_of(std::begin(warnings), std::end(warnings),
-                       [&text](QLatin1String warning) { return text.contains(warning); });
+    return std::any_of(std::begin(warnings), std::end(warnings), [&text](const char *warning) {
+        return text.contains(QLatin1String(warning));
+    });
 }

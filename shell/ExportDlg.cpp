@@ -139,7 +139,8 @@ void ExportDlg::chooseFile()
         return;
     // nobody was asked about a file of the longer name
     const QString withSuffix = file + QStringLiteral(".json");
-    if (QFileInfo(file).suffix().isEmpty() && !QFileInfo::exists(withSuffix))
+    if (!file.endsWith(QLatin1String(".json"), Qt::CaseInsensitive) &&
+        !QFileInfo::exists(withSuffix))
         file = withSuffix;
     if (!exportTo(file))
         return;

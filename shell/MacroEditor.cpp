@@ -223,9 +223,8 @@ void MacroEditor::showState()
     const bool hasMacro = !m_macro.isEmpty();
     const bool isRecording = m_recorder->isRecording();
     m_title->setText(hasMacro ? tr("%1: %2 of %3 events")
-                                    .arg(m_macro)
-                                    .arg(m_model->rowCount())
-                                    .arg(vantrix_macro_record::MaxEvents)
+                                    .arg(m_macro, QString::number(m_model->rowCount()),
+                                         QString::number(vantrix_macro_record::MaxEvents))
                               : tr("Make a new macro, then record keys."));
     m_setDelaysBtn->setEnabled(hasMacro && !isRecording);
     const int row = currentRow();

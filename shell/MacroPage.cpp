@@ -342,8 +342,9 @@ void MacroPage::deleteMacro()
     m_editor->say({});
     refresh();
     emit m_context.status(
-        keys == 0 ? tr("Macro %1 was deleted.").arg(name)
-                  : tr("Macro %1 was deleted and taken off %2 keys.").arg(name).arg(keys));
+        keys == 0
+            ? tr("Macro %1 was deleted.").arg(name)
+            : tr("Macro %1 was deleted and taken off %2 keys.").arg(name, QString::number(keys)));
 }
 
 // ---- for a key ----

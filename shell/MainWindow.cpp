@@ -37,6 +37,7 @@ constexpr int RoomForNames = 1180;
 /// Room for the name of a profile outside the list.
 constexpr int NameRoom = 120;
 constexpr QSize InitialSize(1384, 800);
+constexpr QSize RoomForFrame(16, 48); ///< of the window manager, which it tells too late
 constexpr QSize MinimumSize(900, 600);
 
 QString geometryKey()
@@ -272,7 +273,7 @@ void MainWindow::restore()
     ProfileStore &store = m_context.store();
     const QByteArray geometry = QByteArray::fromBase64(store.setting(geometryKey()).toLatin1());
     if (geometry.isEmpty() || !restoreGeometry(geometry))
-        resize(InitialSize.boundedTo(screen()->availableSize()));
+        resize(InitialSize.boundedTo(screen()->availableSize() - RoomForFrame));
     m_capture->setChecked(store.setting(captureKey()) != QLatin1String("0"));
     m_mapping->setCaptureAllowed(m_capture->isChecked());
     const int profile = qBound(0, store.setting(profileKey()).toInt(), ProfileCount - 1);

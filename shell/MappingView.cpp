@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -185,7 +186,11 @@ void MappingView::resetDevice()
 
 void MappingView::onMacroRemoved(const QString &name)
 {
-    m_page->slotDelKeyAssignMacro(name.toStdString());
+    {
+        // The page would ask for its profile to be sent, and nobody has pressed APPLY.
+        const QSignalBlocker blocker(m_page);
+        m_page->slotDelKeyAssignMacro(name.toStdString());
+    }
     m_toldMacros.removeOne(name);
 }
 

@@ -267,7 +267,8 @@ void ProfileList::duplicateTo(int profile)
         const StoreStepScope step(store, tr("Duplicate %1").arg(name));
         store.duplicateProfile(m_context.owner(), from, profile);
     }
-    emit m_context.status(tr("%1 was copied to profile %2.").arg(name).arg(profile + 1));
+    emit m_context.status(
+        tr("%1 was copied to profile %2.").arg(name, QString::number(profile + 1)));
     emit m_context.goTo(profile, NoKey);
 }
 

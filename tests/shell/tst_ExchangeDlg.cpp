@@ -156,6 +156,12 @@ void tst_ExchangeDlg::suffixIsAdded()
     QCOMPARE(exportAgain(), int(QDialog::Accepted));
     QCOMPARE(QFileInfo(file("mine.json")).size(), qint64(0));
     QVERIFY(QFile::exists(file("mine")));
+    answer = file("gaming 1.2");
+    QCOMPARE(exportAgain(), int(QDialog::Accepted));
+    QVERIFY(QFile::exists(file("gaming 1.2.json")));
+    answer = file("LOUD.JSON");
+    QCOMPARE(exportAgain(), int(QDialog::Accepted));
+    QVERIFY(QFile::exists(file("LOUD.JSON")));
     answer.clear();
     QCOMPARE(exportAgain(), int(QDialog::Rejected));
 }

@@ -431,13 +431,13 @@ void tst_MacroPage::refusalsLeaveWithTheEvents()
 
 void tst_MacroPage::namesAreShownLetterByLetter()
 {
-    add("R&D <b>", Four);
+    add("R&D <b> 5%2", Four);
     auto *const title = child<QLabel>("m_title");
-    QCOMPARE(title->text(), QStringLiteral("R&D <b>: 4 of 127 events"));
+    QCOMPARE(title->text(), QStringLiteral("R&D <b> 5%2: 4 of 127 events"));
     QCOMPARE(title->textFormat(), Qt::PlainText);
     QCOMPARE(child<QLabel>("m_message")->textFormat(), Qt::PlainText);
     store().setProfileName(0, 0, QStringLiteral("P&Q"));
-    store().setNamedMacroKey(0, 0, "R&D <b>", 7);
+    store().setNamedMacroKey(0, 0, "R&D <b> 5%2", 7);
     store().flush();
     auto *const chip = child<QWidget>("m_uses")->findChild<QPushButton *>();
     QVERIFY(chip);

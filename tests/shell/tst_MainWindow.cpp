@@ -66,6 +66,7 @@ private slots:
     void reopeningWithNothingToApply();
     void anyBytesAreShown();
     void secondShell();
+    void deletingAMacroAppliesNothing();
     void fullDisk();
     void closingWithWhatCannotBeSaved();
     void closingWithoutEditsOnAFullDisk();
@@ -682,6 +683,20 @@ void tst_MainWindow::reopeningWithNothingToApply()
     m_window.reset();
     open();
     QCOMPARE(said(), QStringLiteral("Everything is on the device."));
+}
+
+void tst_MainWindow::deletingAMacroAppliesNothing()
+{
+    m_shell->store().addMacro(0, QStringLiteral("Hello"), {});
+    m_shell->store().setNamedMacroKey(0, 0, "Hello", 5);
+    assign(7, "btn_48");
+    QVERIFY(m_shell->device().differs(0, 0));
+    emit m_shell->context.macroAboutToBeRemoved(QStringLiteral("Hello"));
+    m_shell->store().removeMacro(0, QStringLiteral("Hello"));
+    m_shell->store().flush();
+    QVERIFY(m_shell->device().differs(0, 0));
+    click("m_apply");
+    QVERIFY(!m_shell->device().differs(0, 0));
 }
 
 void tst_MainWindow::fullDisk()

@@ -197,11 +197,8 @@ QWidget *MacroEditor::makeEventRow()
 
 void MacroEditor::showMacro(const QString &name)
 {
-    if (m_recorder->isRecording()) {
-        if (name == m_macro)
-            return;
+    if (name != m_macro && m_recorder->isRecording())
         m_recorder->stop();
-    }
     m_macro = name;
     const auto macro = m_context.store().state().macro(m_context.owner(), name);
     const auto events = MacroEventModel::eventsOf(macro.value_or(vantrix_macro_record()));

@@ -37,6 +37,7 @@ private slots:
     void removeChoosesTheNext();
     void removeByKeyboard();
     void recordKeys();
+    void undoWhileRecording();
     void recordWithFixedDelays();
     void recordWithoutDelays();
     void recordAppends();
@@ -294,6 +295,25 @@ void tst_MacroPage::recordKeys()
     QVERIFY(events("Save") == Events({{0xE0, 1, 50}, {0x16, 1, 30}, {0x16, 0, 30}, {0xE0, 0, 0}}));
     QCOMPARE(table()->model()->rowCount(), 4);
     QCOMPARE(list()->topLevelItem(0)->text(2), QStringLiteral("4"));
+}
+
+/// What is recorded follows what the macro has now, not what it had when the recording began.
+void tst_MacroPage::undoWhileRecording()
+{
+    add("Save", {});
+    choose("m_delayMode", MacroRecorder::Fixed);
+    child<QSpinBox>("m_fixedDelay")->setValue(75);
+    click("m_recordBtn");
+    type(0x1E, 0x41, 30);
+    click("m_recordBtn");
+    QCOMPARE(int(events("Save").size()), 2);
+    click("m_recordBtn");
+    type(0x1F, 0x53, 30);
+    store().undo();
+    store().flush();
+    QVERIFY(events("Save") == Events());
+    click("m_recordBtn");
+    QVERIFY(events("Save") == Events({{22, 1, 75}, {22, 0, 75}}));
 }
 
 void tst_MacroPage::recordWithFixedDelays()

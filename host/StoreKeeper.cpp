@@ -40,7 +40,6 @@ StoreContent StoreKeeper::open()
     StoreContent content;
     if (m_name.isEmpty())
         return content;
-    QDir().mkpath(QFileInfo(m_name).absolutePath());
     if (!lock() && m_lock.error() == QLockFile::LockFailedError) {
         readOnly(&content);
         return content;
@@ -51,6 +50,8 @@ StoreContent StoreKeeper::open()
 
 bool StoreKeeper::lock()
 {
+    // The lock lies beside the store, in a folder that may be new or gone.
+    QDir().mkpath(QFileInfo(m_name).absolutePath());
     if (m_lock.isLocked() || m_lock.tryLock(0))
         return true;
     // Whoever is killed while making the lock file leaves one without a name, of which nobody can
@@ -213,7 +214,6 @@ StoreError StoreKeeper::openOlder(StoreContent *content)
 
 bool StoreKeeper::reopen()
 {
-    QDir().mkpath(QFileInfo(m_name).absolutePath());
     if (isLost())
         return writeAnew();
     if (!lock())
@@ -256,9 +256,8 @@ bool StoreKeeper::writeAnew()
 
 StoreError StoreKeeper::makeAnew()
 {
-    QString aside;
     if (QFile::exists(m_name)) {
-        aside = StoreFile::setAside(m_name, QStringLiteral("replaced"));
+        const QString aside = StoreFile::setAside(m_name, QStringLiteral("replaced"));
         m_lossNote = tr("The store %1 was replaced by another file while the program was running. "
                         "That file was kept as %2, and the store was written again.")
                          .arg(shortName(m_name), shortName(aside));
@@ -269,7 +268,6 @@ StoreError StoreKeeper::makeAnew()
                         "again.")
                          .arg(shortName(m_name));
     }
-    QDir().mkpath(QFileInfo(m_name).absolutePath());
     if (!QFile::exists(m_name + lockSuffix()))
         m_lock.unlock();
     if (!lock())

@@ -261,12 +261,17 @@ void VantrixMapWid::updateKeyMapping()
     showStored();
     if (!alive)
         return;
+    checkLabels();
+    updateMenuVisible(mode());
+    updateCapture();
+}
+
+void VantrixMapWid::checkLabels()
+{
     const bool isSelectedCleared = m_data->m_assignWid->checkLabels();
     m_data->m_mapWid->refreshAssigns();
     if (isSelectedCleared)
         m_data->m_assignWid->announceSelection();
-    updateMenuVisible(mode());
-    updateCapture();
 }
 
 /// The board may have to warn of something, and the page may be gone when the user has read it.
@@ -320,10 +325,7 @@ void VantrixMapWid::slotRenameKeyAssignMacro(std::string strOldName, std::string
 
 void VantrixMapWid::slotUpdateMacroAssign()
 {
-    const bool isSelectedCleared = m_data->m_assignWid->checkLabels();
-    m_data->m_mapWid->refreshAssigns();
-    if (isSelectedCleared)
-        m_data->m_assignWid->announceSelection();
+    checkLabels();
     emit sigUpdateKeyMapping();
 }
 

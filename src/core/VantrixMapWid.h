@@ -121,6 +121,7 @@ private:
     void updateCapture();
     void updateCaptureFor(int mode);
     void showStored();
+    void checkLabels();
 
     Private *m_data;
 };

@@ -94,6 +94,16 @@ private:
         store().flush();
         m_page->selectMacro(QLatin1String(name));
     }
+    /// Records A into a new macro "Save", with fixed delays of 75 ms.
+    void recordA75()
+    {
+        add("Save", {});
+        choose("m_delayMode", MacroRecorder::Fixed);
+        child<QSpinBox>("m_fixedDelay")->setValue(75);
+        click("m_recordBtn");
+        type(0x1E, 0x41, 30);
+        click("m_recordBtn");
+    }
     void type(quint32 scan, quint32 key, int ms)
     {
         QWidget *const pad = child<QLabel>("m_recordPad");
@@ -300,12 +310,7 @@ void tst_MacroPage::recordKeys()
 /// What is recorded follows what the macro has now, not what it had when the recording began.
 void tst_MacroPage::undoWhileRecording()
 {
-    add("Save", {});
-    choose("m_delayMode", MacroRecorder::Fixed);
-    child<QSpinBox>("m_fixedDelay")->setValue(75);
-    click("m_recordBtn");
-    type(0x1E, 0x41, 30);
-    click("m_recordBtn");
+    recordA75();
     QCOMPARE(int(events("Save").size()), 2);
     click("m_recordBtn");
     type(0x1F, 0x53, 30);
@@ -318,12 +323,7 @@ void tst_MacroPage::undoWhileRecording()
 
 void tst_MacroPage::recordWithFixedDelays()
 {
-    add("Save", {});
-    choose("m_delayMode", MacroRecorder::Fixed);
-    child<QSpinBox>("m_fixedDelay")->setValue(75);
-    click("m_recordBtn");
-    type(0x1E, 0x41, 30);
-    click("m_recordBtn");
+    recordA75();
     QVERIFY(events("Save") == Events({{4, 1, 75}, {4, 0, 75}}));
 }
 

@@ -2,9 +2,9 @@
 
 #include "host/KeyText.h"
 #include "shell/FunctionDelegate.h"
-#include "shell/GivenText.h"
 #include "shell/KeyTitle.h"
 #include "shell/ShellStyle.h"
+#include "vocabulary/Common.h"
 #include "vocabulary/KeyCodes.h"
 
 #include <QHBoxLayout>
@@ -24,7 +24,7 @@ void setFunction(QTreeWidgetItem *item, int column, const QString &text, int kin
 {
     item->setText(column, text);
     item->setToolTip(column,
-                     GivenText::forTip(QStringLiteral("%1 (%2)").arg(text, inputTypeText(kind))));
+                     Common::PlainTip(QStringLiteral("%1 (%2)").arg(text, inputTypeText(kind))));
     item->setData(column, FunctionDelegate::KindRole, kind);
 }
 

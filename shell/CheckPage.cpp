@@ -2,9 +2,9 @@
 
 #include "host/StoreState.h"
 #include "shell/FlowLayout.h"
-#include "shell/GivenText.h"
 #include "shell/KeyTitle.h"
 #include "shell/ShellStyle.h"
+#include "vocabulary/Common.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
@@ -178,7 +178,7 @@ QPushButton *CheckPage::makeChip(const CheckFinding &finding, const KeyPlace &pl
         text = name;
     else if (place.profile != finding.profile)
         text = QStringLiteral("%1 \u00B7 %2").arg(name, text);
-    auto *const chip = new QPushButton(GivenText::forButton(text), parent);
+    auto *const chip = new QPushButton(Common::ButtonText(text), parent);
     chip->setToolTip(tr("Go there"));
     connect(chip, &QPushButton::clicked, this,
             [this, place] { emit m_context.goTo(place.profile, place.keyIdx); });

@@ -2,8 +2,8 @@
 
 #include "interfaces/Modal.h"
 #include "shell/ExchangeFolder.h"
-#include "shell/GivenText.h"
 #include "shell/ShellStyle.h"
+#include "vocabulary/Common.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -103,7 +103,7 @@ bool ImportDlg::openFile(const QString &fileName)
     m_content = ExchangeContent();
     m_isRead = false;
     m_file->setText(shortName);
-    m_file->setToolTip(GivenText::forTip(fileName));
+    m_file->setToolTip(Common::PlainTip(fileName));
     QString error;
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {

@@ -1,11 +1,11 @@
 #include "shell/MacroPage.h"
 
 #include "shell/FlowLayout.h"
-#include "shell/GivenText.h"
 #include "shell/KeyTitle.h"
 #include "shell/MacroEditor.h"
 #include "shell/ShellStyle.h"
 #include "shell/WidgetKeys.h"
+#include "vocabulary/Common.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>
@@ -209,7 +209,7 @@ void MacroPage::refreshUses()
         const QString text =
             QStringLiteral("%1 \u00B7 %2")
                 .arg(store.state().profileName(m_context.owner(), profile), KeyTitle::of(keyIdx));
-        auto *const chip = new QPushButton(GivenText::forButton(text), m_uses);
+        auto *const chip = new QPushButton(Common::ButtonText(text), m_uses);
         chip->setToolTip(tr("Go to this key"));
         connect(chip, &QPushButton::clicked, this, [this, profile = profile, keyIdx = keyIdx] {
             emit m_context.goTo(profile, keyIdx);

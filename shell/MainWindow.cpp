@@ -10,7 +10,7 @@
 #include "shell/ShellStyle.h"
 
 #include "interfaces/Modal.h"
-#include "shell/GivenText.h"
+#include "vocabulary/Common.h"
 
 #include <QAction>
 #include <QApplication>
@@ -407,18 +407,18 @@ void MainWindow::updateSteps()
     const ProfileStore &store = m_context.store();
     m_undo->setEnabled(store.canUndo());
     m_redo->setEnabled(store.canRedo());
-    m_undo->setText(store.canUndo() ? tr("&Undo %1").arg(GivenText::forButton(store.undoName()))
+    m_undo->setText(store.canUndo() ? tr("&Undo %1").arg(Common::ButtonText(store.undoName()))
                                     : tr("&Undo"));
-    m_redo->setText(store.canRedo() ? tr("&Redo %1").arg(GivenText::forButton(store.redoName()))
+    m_redo->setText(store.canRedo() ? tr("&Redo %1").arg(Common::ButtonText(store.redoName()))
                                     : tr("&Redo"));
     m_undo->setIconText(QStringLiteral("↶"));
     m_redo->setIconText(QStringLiteral("↷"));
-    m_undo->setToolTip(GivenText::forTip(tr("Undo %1 (Ctrl+Z)").arg(store.undoName())));
+    m_undo->setToolTip(Common::PlainTip(tr("Undo %1 (Ctrl+Z)").arg(store.undoName())));
     // What was said before another step does not hold any more.
     const bool isHint = !m_captureHint.isEmpty() && m_status->text() == m_captureHint;
     if (store.canUndo() && lastStep() != m_stepOfStatus && !isHint)
         say(store.undoName());
-    m_redo->setToolTip(GivenText::forTip(tr("Redo %1 (Ctrl+Shift+Z)").arg(store.redoName())));
+    m_redo->setToolTip(Common::PlainTip(tr("Redo %1 (Ctrl+Shift+Z)").arg(store.redoName())));
 }
 
 // ---- state ----
@@ -446,8 +446,8 @@ void MainWindow::updateState()
                             : count == 1 ? tr("1 key to apply")
                                          : tr("%1 keys to apply").arg(count);
     m_applied->setText(tr("Device: %1   |   %2   |").arg(narrowed(device), pending));
-    m_applied->setToolTip(GivenText::forTip(device));
-    m_shown->setToolTip(GivenText::forTip(name));
+    m_applied->setToolTip(Common::PlainTip(device));
+    m_shown->setToolTip(Common::PlainTip(name));
     showName();
     m_saved->setText(store.isReadOnly() ? tr("READ ONLY")
                      : store.isSaved()  ? tr("Saved")

@@ -2,10 +2,10 @@
 
 #include "host/KeyText.h"
 #include "host/StoreState.h"
-#include "shell/GivenText.h"
 #include "shell/KeyTitle.h"
 #include "shell/ShellStyle.h"
 #include "vocabulary/AppTables.h"
+#include "vocabulary/Common.h"
 #include "vocabulary/KeyCodes.h"
 
 #include <QHelpEvent>
@@ -252,7 +252,7 @@ bool PadView::event(QEvent *event)
             QToolTip::hideText();
         else
             QToolTip::showText(help->globalPos(),
-                               GivenText::forTip(m_keys[std::size_t(keyIdx)].description), this);
+                               Common::PlainTip(m_keys[std::size_t(keyIdx)].description), this);
         return true;
     }
     return QWidget::event(event);

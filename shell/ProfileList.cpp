@@ -1,8 +1,8 @@
 #include "shell/ProfileList.h"
 
-#include "shell/GivenText.h"
 #include "shell/ProfileDelegate.h"
 #include "shell/ShellStyle.h"
+#include "vocabulary/Common.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -191,7 +191,7 @@ void ProfileList::refreshRow(QListWidgetItem *item)
     if (isDirty)
         words << tr("differs from what the device has");
     const QString state = words.join(QStringLiteral(", "));
-    item->setToolTip(GivenText::forTip(state));
+    item->setToolTip(Common::PlainTip(state));
     item->setData(Qt::AccessibleTextRole, state);
 }
 
@@ -282,7 +282,7 @@ void ProfileList::fillTargets(QMenu *menu)
                            .arg(state.profileName(m_context.owner(), profile));
         if (isUnused(profile))
             text = tr("%1  (unused)").arg(text);
-        QAction *const action = menu->addAction(GivenText::forButton(text), this,
+        QAction *const action = menu->addAction(Common::ButtonText(text), this,
                                                 [this, profile] { duplicateTo(profile); });
         action->setEnabled(profile != m_context.profile());
     }

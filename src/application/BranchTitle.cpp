@@ -1,6 +1,6 @@
 #include "application/BranchTitle.h"
 
-#include "toolkit/SearchGrid.h"
+#include "vocabulary/Common.h"
 
 #include <QPushButton>
 #include <QScrollArea>
@@ -20,7 +20,7 @@ void setUpTitle(QPushButton *title, QScrollArea *area, const QString &text)
 {
     // A long title is cut, it does not make the page wider.
     title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    title->setText(SearchGrid::buttonText(shownPart(text)));
+    title->setText(Common::ButtonText(shownPart(text)));
     // Enter in a dialog's line of text must not reach it.
     title->setAutoDefault(false);
     area->hide();

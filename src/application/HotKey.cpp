@@ -1,13 +1,12 @@
 #include "application/HotKey.h"
 
 #include "application/BranchTitle.h"
-#include "toolkit/SearchGrid.h"
 #include "vocabulary/Common.h"
 
 #include <QFontMetrics>
 
 HotKey::HotKey(QString strKeyName, QString strHotKey, QWidget *parent)
-    : QPushButton(SearchGrid::buttonText(shownPart(strKeyName)), parent),
+    : QPushButton(Common::ButtonText(shownPart(strKeyName)), parent),
       m_strKeyName(std::move(strKeyName)), m_strHotKey(std::move(strHotKey))
 {
     setCheckable(true);
@@ -23,7 +22,7 @@ void HotKey::fit(int width, const QFontMetrics &metrics)
     setFixedWidth(width);
     const QString full = shownPart(m_strKeyName);
     const QString shown = metrics.elidedText(full, Qt::ElideRight, width);
-    setText(SearchGrid::buttonText(shown));
+    setText(Common::ButtonText(shown));
     setAccessibleName(shown == full ? QString() : full);
 }
 

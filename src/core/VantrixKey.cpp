@@ -1,7 +1,6 @@
 #include "core/VantrixKey.h"
 
 #include "core/DualActionTipWid.h"
-#include "toolkit/SearchGrid.h"
 #include "vocabulary/AppTables.h"
 #include "vocabulary/Common.h"
 #include "vocabulary/KeyCodes.h"
@@ -180,7 +179,7 @@ void VantrixKey::render()
         keyLegendOfCode(state == InputType::Unassigned ? defaultCodeOfKey(m_keyIdx) : code);
     QString text = showsIcon(state) ? QString() : name;
     if (code == MeridianCode)
-        text = SearchGrid::buttonText(m_info);
+        text = Common::ButtonText(m_info);
     if (m_keyIdx < MainKeyCount)
         Common::TextWrap(text);
     setFace(sheet, text, showsIcon(state) ? name : QString());
@@ -215,7 +214,7 @@ void VantrixKey::setFullText(const QString &text)
     m_text = text;
     // Names of hot keys are the user's; a legend doubles its ampersands itself.
     const bool isLabel = m_mapping.type == KeyType::Label;
-    Common::SetText(this, isLabel ? SearchGrid::buttonText(text) : text);
+    Common::SetText(this, isLabel ? Common::ButtonText(text) : text);
     if (!m_labelToolTip.isEmpty())
         setToolTip(Common::PlainTip(m_labelToolTip));
 }

@@ -8,6 +8,7 @@
 #include "vocabulary/KeyNames.h"
 
 #include "ui_MacroAdvUi.h"
+#include "vocabulary/Common.h"
 
 #include <QScrollBar>
 
@@ -89,7 +90,7 @@ void MacroAdvWid::addMacro(std::string name)
 void MacroAdvWid::appendMacro(const std::string &name)
 {
     auto *const key =
-        new AssignKey(SearchGrid::buttonText(QString::fromStdString(name)), m_ui->m_userWid);
+        new AssignKey(Common::ButtonText(QString::fromStdString(name)), m_ui->m_userWid);
     m_group->addButton(key, FirstMacroId + userMacroCount());
     m_userGrid->append(key);
     // Tab runs in the order in which buttons were made; the shortcuts stand below.
@@ -119,7 +120,7 @@ void MacroAdvWid::renameMacro(std::string oldName, std::string newName)
         return;
     *found = newName;
     const int id = FirstMacroId + int(found - m_names.begin());
-    m_group->button(id)->setText(SearchGrid::buttonText(QString::fromStdString(newName)));
+    m_group->button(id)->setText(Common::ButtonText(QString::fromStdString(newName)));
     m_userGrid->search(m_search);
 }
 

@@ -53,11 +53,6 @@ QString SearchGrid::shownText(const QAbstractButton *button)
     return button->text().replace(QLatin1String("&&"), QLatin1String("&"));
 }
 
-QString SearchGrid::buttonText(QString text)
-{
-    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
-}
-
 void SearchGrid::place(Entry &entry, int cell)
 {
     entry.cell = cell;

@@ -36,8 +36,6 @@ public:
 
     /// What stands on a button to be read: its text with doubled ampersands taken back.
     static QString shownText(const QAbstractButton *button);
-    /// The text to give a button so that `text` is what is read: ampersands doubled.
-    static QString buttonText(QString text);
 
 private:
     struct Entry

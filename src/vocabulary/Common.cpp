@@ -71,6 +71,11 @@ void Common::TextWrap(QString &text)
     text.replace(QLatin1Char(' '), QLatin1Char('\n'));
 }
 
+QString Common::ButtonText(QString text)
+{
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 QString Common::PlainTip(const QString &text)
 {
     if (!Qt::mightBeRichText(text))

@@ -22,6 +22,8 @@ public:
     static void SpecialCharHandle(const QString &in, QString &out);
     /// Every blank becomes a line break.
     static void TextWrap(QString &text);
+    /// The text to give a button or an action so that `text` is what is read: ampersands doubled.
+    static QString ButtonText(QString text);
     /// A tool tip that shows a text as it is: the text itself, unless Qt would take it for markup.
     static QString PlainTip(const QString &text);
     /// Sets the text, elided on the right to the widget's width; the tool tip shows the whole text

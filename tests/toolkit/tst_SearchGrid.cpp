@@ -1,6 +1,7 @@
 #include "toolkit/SearchGrid.h"
 
 #include "support/TestMain.h"
+#include "vocabulary/Common.h"
 
 #include <QGridLayout>
 #include <QPushButton>
@@ -97,7 +98,7 @@ void tst_SearchGrid::init()
 void tst_SearchGrid::fill(const QStringList &names)
 {
     for (const QString &name : names) {
-        m_buttons << new QPushButton(SearchGrid::buttonText(name), m_container);
+        m_buttons << new QPushButton(Common::ButtonText(name), m_container);
         m_grid->append(m_buttons.last());
     }
     m_window->show();

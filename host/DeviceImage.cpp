@@ -87,9 +87,24 @@ bool operator==(const DeviceKey &a, const DeviceKey &b)
     return a.content == b.content && a.sequence == b.sequence;
 }
 
+bool actAlike(const DeviceKey &a, const DeviceKey &b)
+{
+    KeyContent content = a.content;
+    if (content.macroName && b.content.macroName)
+        content.macroName = b.content.macroName;
+    return content == b.content && a.sequence == b.sequence;
+}
+
 bool operator==(const DeviceImage &a, const DeviceImage &b)
 {
     return a.owner == b.owner && a.profile == b.profile && a.keys == b.keys;
+}
+
+bool actAlike(const DeviceImage &a, const DeviceImage &b)
+{
+    return std::equal(
+        a.keys.begin(), a.keys.end(), b.keys.begin(),
+        [](const DeviceKey &one, const DeviceKey &other) { return actAlike(one, other); });
 }
 
 vantrix_macro_record chordRecord(const std::vector<ushort> &codes, ushort recordCode)
@@ -206,7 +221,7 @@ std::vector<DeviceDifference> differences(const DeviceImage &before, const Devic
     for (int i = 0; i < KeyCount; ++i) {
         const DeviceKey &old = before.keys[std::size_t(i)];
         const DeviceKey &now = after.keys[std::size_t(i)];
-        if (old == now)
+        if (actAlike(old, now))
             continue;
         DeviceDifference difference{i, old, now, KeyText::functionName(i, old.content),
                                     KeyText::functionName(i, now.content)};

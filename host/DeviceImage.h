@@ -20,6 +20,9 @@ inline bool operator!=(const DeviceKey &a, const DeviceKey &b)
     return !(a == b);
 }
 
+/// Whether the device does the same for both: the name of a macro does not matter, its events do.
+bool actAlike(const DeviceKey &a, const DeviceKey &b);
+
 /// The complete image of a profile, all that a device needs to act by itself. A plain value.
 struct DeviceImage
 {
@@ -43,6 +46,8 @@ inline bool operator!=(const DeviceImage &a, const DeviceImage &b)
     return !(a == b);
 }
 
+bool actAlike(const DeviceImage &a, const DeviceImage &b);
+
 /// One key that differs between two images, in words.
 struct DeviceDifference
 {
@@ -52,7 +57,7 @@ struct DeviceDifference
     QString beforeText; ///< as KeyText::functionName
     QString afterText;  ///< differs from `beforeText`, also when only a macro's events changed
 };
-/// All keys that differ, in key order.
+/// All keys that do not act alike, in key order.
 std::vector<DeviceDifference> differences(const DeviceImage &before, const DeviceImage &after);
 
 /// A record that presses the codes in order and releases them in the opposite order, 20

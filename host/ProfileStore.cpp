@@ -554,6 +554,25 @@ bool ProfileStore::moveMacro(int owner, int from, int to)
     return true;
 }
 
+std::pair<QString, bool> ProfileStore::macroPlaying(int owner, const QString &wanted,
+                                                    const vantrix_macro_record &record)
+{
+    vantrix_macro_record macro = record;
+    macro.code = 0;
+    const auto plays = [&](const QString &name) {
+        vantrix_macro_record other = m_state.macro(owner, name).value_or(vantrix_macro_record());
+        other.code = 0;
+        return other == macro;
+    };
+    const QStringList candidates = QStringList(wanted) + m_state.macroNames(owner);
+    const auto same = std::find_if(candidates.begin(), candidates.end(), plays);
+    if (same != candidates.end())
+        return {*same, false};
+    const QString name = freeMacroName(owner, wanted);
+    addMacro(owner, name, macro);
+    return {name, true};
+}
+
 QString ProfileStore::freeMacroName(int owner, const QString &wanted) const
 {
     const QStringList names = m_state.macroNames(owner);

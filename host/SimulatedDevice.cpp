@@ -103,7 +103,8 @@ std::vector<DeviceDifference> SimulatedDevice::pending(int owner, int profile) c
 
 bool SimulatedDevice::differs(int owner, int profile) const
 {
-    return m_store && image(owner, profile) != DeviceImage::of(m_store->state(), owner, profile);
+    return m_store &&
+           !actAlike(image(owner, profile), DeviceImage::of(m_store->state(), owner, profile));
 }
 
 int SimulatedDevice::number(const char *name, int defaultValue) const

@@ -209,10 +209,25 @@ void ChangesPage::putBack(const QList<QTreeWidgetItem *> &items)
     const QString name = items.size() == 1 ? tr("Put back key %1").arg(keyOf(items.first()))
                                            : tr("Put back %1 keys").arg(items.size());
     const StoreStepScope step(store, name);
+    QStringList macros;
     for (const QTreeWidgetItem *item : items) {
-        const int key = keyOf(item);
-        store.setProfileKey(owner, profile, key, image.keys[std::size_t(key)].content);
+        const int keyIdx = keyOf(item);
+        const DeviceKey &key = image.keys[std::size_t(keyIdx)];
+        KeyContent content = key.content;
+        if (content.macroName) {
+            // the device knows a macro by what it plays; the store can have none like it any more
+            const auto [macro, added] = store.macroPlaying(owner, *content.macroName, key.sequence);
+            content.macroName = macro;
+            if (added)
+                macros << macro;
+        }
+        store.setProfileKey(owner, profile, keyIdx, content);
     }
+    for (const QString &macro : qAsConst(macros))
+        emit m_context.macroAdded(macro);
+    if (!macros.isEmpty())
+        emit m_context.status(
+            tr("Back from the device, as a macro: %1").arg(macros.join(tr(", "))));
 }
 
 void ChangesPage::onActivated(const QTreeWidgetItem *item)

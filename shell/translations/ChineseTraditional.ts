@@ -55,6 +55,14 @@
         <source>FUNCTION</source>
         <translation>功能</translation>
     </message>
+    <message>
+        <source>Back from the device, as a macro: %1</source>
+        <translation>已從裝置還原為巨集：%1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPage</name>

@@ -55,6 +55,14 @@
         <source>FUNCTION</source>
         <translation>FONCTION</translation>
     </message>
+    <message>
+        <source>Back from the device, as a macro: %1</source>
+        <translation>Revenu de l’appareil, en macro : %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPage</name>

@@ -55,6 +55,14 @@
         <source>FUNCTION</source>
         <translation>기능</translation>
     </message>
+    <message>
+        <source>Back from the device, as a macro: %1</source>
+        <translation>장치에서 매크로로 되돌림: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPage</name>

@@ -55,6 +55,14 @@
         <source>FUNCTION</source>
         <translation>FUNGSI</translation>
     </message>
+    <message>
+        <source>Back from the device, as a macro: %1</source>
+        <translation>Kembali daripada peranti, sebagai makro: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPage</name>

@@ -55,6 +55,14 @@
         <source>FUNCTION</source>
         <translation>FUNÇÃO</translation>
     </message>
+    <message>
+        <source>Back from the device, as a macro: %1</source>
+        <translation>De volta do dispositivo, como macro: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPage</name>

@@ -55,6 +55,14 @@
         <source>FUNCTION</source>
         <translation>ФУНКЦИЯ</translation>
     </message>
+    <message>
+        <source>Back from the device, as a macro: %1</source>
+        <translation>Возвращено с устройства как макрос: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPage</name>

@@ -55,6 +55,14 @@
         <source>FUNCTION</source>
         <translation>FUNCIÓN</translation>
     </message>
+    <message>
+        <source>Back from the device, as a macro: %1</source>
+        <translation>De vuelta del dispositivo, como macro: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPage</name>

@@ -55,6 +55,14 @@
         <source>FUNCTION</source>
         <translation>ฟังก์ชัน</translation>
     </message>
+    <message>
+        <source>Back from the device, as a macro: %1</source>
+        <translation>กลับมาจากอุปกรณ์เป็นมาโคร: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPage</name>

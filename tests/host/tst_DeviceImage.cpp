@@ -19,6 +19,7 @@ private slots:
     void differencesInWords();
     void macroEditIsADifference();
     void namesDoNotMatter();
+    void nameOfMacroDoesNotMatter();
     void functionNames_data();
     void functionNames();
 };
@@ -213,6 +214,20 @@ void tst_DeviceImage::namesDoNotMatter()
     const DeviceImage before = DeviceImage::of(store.state(), Owner, 2);
     store.setProfileName(Owner, 2, QStringLiteral("Work"));
     QVERIFY(DeviceImage::of(store.state(), Owner, 2) == before);
+}
+
+void tst_DeviceImage::nameOfMacroDoesNotMatter()
+{
+    ProfileStore store{QString()};
+    fill(store);
+    const DeviceImage before = DeviceImage::of(store.state(), Owner, 2);
+    store.renameMacro(Owner, QStringLiteral("Greeting"), QStringLiteral("Hello"));
+    const DeviceImage renamed = DeviceImage::of(store.state(), Owner, 2);
+    QVERIFY(renamed != before);
+    QVERIFY(actAlike(before, renamed));
+    QVERIFY(differences(before, renamed).empty());
+    store.delNamedMacroKey(Owner, 2, 7);
+    QVERIFY(!actAlike(before, DeviceImage::of(store.state(), Owner, 2)));
 }
 
 void tst_DeviceImage::functionNames_data()

@@ -24,6 +24,9 @@ private slots:
     void followsTheStore();
     void putsOneKeyBack();
     void putsAllBackInOneStep();
+    void putsAMacroBack_data();
+    void putsAMacroBack();
+    void renamedMacroIsNoChange();
     void applyAsks();
     void showsWhatTheDeviceHas();
     void enterGoesToTheKey();
@@ -132,6 +135,83 @@ void tst_ChangesPage::putsAllBackInOneStep()
     QTRY_COMPARE(pending()->topLevelItemCount(), 0);
     QCOMPARE(m_shell->store().stepNames().last(), QStringLiteral("Put back 2 keys"));
     QVERIFY(!m_shell->device().differs(0, 0));
+}
+
+void tst_ChangesPage::putsAMacroBack_data()
+{
+    QTest::addColumn<QStringList>("edits"); // done to the macro "Greet" that the device plays
+    QTest::addColumn<QString>("name");      // of the macro on the key afterwards
+    QTest::addColumn<QStringList>("names"); // of all macros
+    const auto list = [](const char *names) {
+        return QString::fromLatin1(names).split(' ');
+    };
+    QTest::newRow("edited") << list("edit") << "Greet 2" << QStringList{"Greet", "Greet 2"};
+    QTest::newRow("deleted") << list("delete") << "Greet" << list("Greet");
+    QTest::newRow("renamed, another on the key")
+        << list("rename unassign") << "Hello" << list("Hello");
+    QTest::newRow("renamed and edited") << list("rename edit") << "Greet" << list("Hello Greet");
+    QTest::newRow("not touched") << list("unassign") << "Greet" << list("Greet");
+}
+
+void tst_ChangesPage::putsAMacroBack()
+{
+    QFETCH(QStringList, edits);
+    QFETCH(QString, name);
+    QFETCH(QStringList, names);
+    constexpr int Owner = ShellContext::Owner;
+    ProfileStore &store = m_shell->store();
+    vantrix_macro_record played;
+    played.count = 1;
+    played.events[0] = {9, 1, 33};
+    QString current = QStringLiteral("Greet");
+    store.addMacro(Owner, current, played);
+    store.setNamedMacroKey(Owner, 0, "Greet", 4);
+    store.setNamedMacroKey(Owner, 0, "Greet", 6);
+    store.flush();
+    m_shell->apply();
+    vantrix_macro_record other = played;
+    other.events[0] = {10, 1, 33};
+    for (const QString &edit : qAsConst(edits)) {
+        if (edit == QLatin1String("edit"))
+            store.setMacro(Owner, current, other);
+        else if (edit == QLatin1String("delete"))
+            store.removeMacro(Owner, current);
+        else if (edit == QLatin1String("unassign"))
+            store.delNamedMacroKey(Owner, 0, 4);
+        else {
+            store.renameMacro(Owner, current, QStringLiteral("Hello"));
+            current = QStringLiteral("Hello");
+        }
+        store.flush();
+    }
+    QTRY_VERIFY(pending()->topLevelItemCount() > 0);
+    const QByteArray before = store.state().toBytes();
+    QSignalSpy added(&m_shell->context, &ShellContext::macroAdded);
+    press("m_putBackAllBtn");
+    const StoreState &state = store.state();
+    QCOMPARE(state.macroKey(Owner, 0, 4), std::make_optional(name));
+    QVERIFY(state.macro(Owner, name) == played);
+    QCOMPARE(state.macroNames(Owner), names);
+    QCOMPARE(added.count(), edits.contains("unassign") ? 0 : 1);
+    QTRY_COMPARE(pending()->topLevelItemCount(), 0);
+    QVERIFY(!m_shell->device().differs(Owner, 0));
+    store.undo();
+    QVERIFY(state.toBytes() == before);
+}
+
+void tst_ChangesPage::renamedMacroIsNoChange()
+{
+    constexpr int Owner = ShellContext::Owner;
+    ProfileStore &store = m_shell->store();
+    store.addMacro(Owner, QStringLiteral("Greet"), vantrix_macro_record());
+    store.setNamedMacroKey(Owner, 0, "Greet", 4);
+    store.flush();
+    m_shell->apply();
+    store.renameMacro(Owner, QStringLiteral("Greet"), QStringLiteral("Hello"));
+    store.flush();
+    QCoreApplication::processEvents();
+    QCOMPARE(pending()->topLevelItemCount(), 0);
+    QVERIFY(!m_shell->device().differs(Owner, 0));
 }
 
 void tst_ChangesPage::applyAsks()

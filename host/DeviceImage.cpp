@@ -1,6 +1,7 @@
 #include "host/DeviceImage.h"
 
 #include "host/KeyText.h"
+#include "host/ProfileStore.h"
 #include "vocabulary/KeyCodes.h"
 
 #include <QDataStream>
@@ -172,6 +173,21 @@ DeviceImage DeviceImage::factory(int owner, int profile)
     for (int i = 0; i < KeyCount; ++i)
         image.keys[std::size_t(i)].content = freshKey(i);
     return image;
+}
+
+QString DeviceImage::putBack(int keyIdx, ProfileStore &store) const
+{
+    const DeviceKey &key = keys[std::size_t(keyIdx)];
+    KeyContent content = key.content;
+    QString fresh;
+    if (content.macroName) {
+        const auto [name, added] = store.macroPlaying(owner, *content.macroName, key.sequence);
+        content.macroName = name;
+        if (added)
+            fresh = name;
+    }
+    store.setProfileKey(owner, profile, keyIdx, content);
+    return fresh;
 }
 
 QByteArray DeviceImage::toBytes() const

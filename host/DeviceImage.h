@@ -5,6 +5,8 @@
 
 #include <vector>
 
+class ProfileStore;
+
 /// One key as the device gets it.
 struct DeviceKey
 {
@@ -34,6 +36,10 @@ struct DeviceImage
     static DeviceImage of(const StoreState &state, int owner, int profile);
     /// What a device acts by that was never sent that profile: nothing assigned.
     static DeviceImage factory(int owner, int profile);
+
+    /// Gives a key of the store back what it has here. The device knows a macro by what it plays;
+    /// where the store has none like it any more, one is added and its name returned.
+    QString putBack(int keyIdx, ProfileStore &store) const;
 
     /// For keeping, not for sending: compressed, and only `fromBytes` reads it.
     QByteArray toBytes() const;

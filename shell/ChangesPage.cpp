@@ -203,26 +203,14 @@ void ChangesPage::putBack(const QList<QTreeWidgetItem *> &items)
     if (items.isEmpty())
         return;
     ProfileStore &store = m_context.store();
-    const int owner = m_context.owner();
-    const int profile = m_context.profile();
-    const DeviceImage image = m_context.device().image(owner, profile);
+    const DeviceImage image = m_context.device().image(m_context.owner(), m_context.profile());
     const QString name = items.size() == 1 ? tr("Put back key %1").arg(keyOf(items.first()))
                                            : tr("Put back %1 keys").arg(items.size());
     const StoreStepScope step(store, name);
     QStringList macros;
-    for (const QTreeWidgetItem *item : items) {
-        const int keyIdx = keyOf(item);
-        const DeviceKey &key = image.keys[std::size_t(keyIdx)];
-        KeyContent content = key.content;
-        if (content.macroName) {
-            // the device knows a macro by what it plays; the store can have none like it any more
-            const auto [macro, added] = store.macroPlaying(owner, *content.macroName, key.sequence);
-            content.macroName = macro;
-            if (added)
-                macros << macro;
-        }
-        store.setProfileKey(owner, profile, keyIdx, content);
-    }
+    for (const QTreeWidgetItem *item : items)
+        macros << image.putBack(keyOf(item), store);
+    macros.removeAll(QString());
     for (const QString &macro : qAsConst(macros))
         emit m_context.macroAdded(macro);
     if (!macros.isEmpty())

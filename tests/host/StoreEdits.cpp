@@ -1,5 +1,7 @@
 #include "StoreEdits.h"
 
+#include "host/ProfileExchange.h"
+
 void StoreEdits::look()
 {
     m_profile = below(ProfileCount);
@@ -16,7 +18,8 @@ void StoreEdits::edit()
         &StoreEdits::editKey,      &StoreEdits::editDual,     &StoreEdits::editPreset,
         &StoreEdits::editApp,      &StoreEdits::editHotKey,   &StoreEdits::editShortcut,
         &StoreEdits::editExtended, &StoreEdits::editMacroKey, &StoreEdits::editMacros,
-        &StoreEdits::editProfiles, &StoreEdits::editPresso,   &StoreEdits::clearKey};
+        &StoreEdits::editProfiles, &StoreEdits::editPresso,   &StoreEdits::clearKey,
+        &StoreEdits::importFile,   &StoreEdits::putBack};
     const StoreState before = m_store.state();
     // an edit can hit upon what is there already; another one will not
     do {
@@ -177,4 +180,24 @@ void StoreEdits::editProfiles()
 void StoreEdits::editPresso()
 {
     m_store.setPressoEnabled(!m_store.getPressoEnabled());
+}
+
+void StoreEdits::importFile()
+{
+    // a profile that was taken some time ago, with macros that are others by now
+    QString error;
+    const auto content = ProfileExchange::fromJson(m_file, QStringLiteral("old.json"), &error);
+    const int taken = below(ProfileCount);
+    m_file = ProfileExchange::toJson(
+        ProfileExchange::take(m_store.state(), Owner, {taken, (taken + 1) % ProfileCount}));
+    if (content)
+        ProfileExchange::put(*content, m_store, Owner);
+}
+
+void StoreEdits::putBack()
+{
+    const StoreStepScope step(m_store, QStringLiteral("Put back"));
+    for (int i = 0; i < 3; ++i)
+        m_sent.putBack(below(KeyCount), m_store);
+    m_sent = DeviceImage::of(m_store.state(), Owner, below(ProfileCount));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/DeviceImage.h"
 #include "host/ProfileStore.h"
 
 #include <random>
@@ -30,6 +31,8 @@ private:
     void editMacros();
     void editProfiles();
     void editPresso();
+    void importFile();
+    void putBack();
     void clearKey();
     void clearExtras(int keyIdx);
     vantrix_macro_record randomMacro();
@@ -40,4 +43,6 @@ private:
     int m_profile = 0;
     int m_key = 0;
     int m_count = 0;
+    QByteArray m_file;
+    DeviceImage m_sent = DeviceImage::factory(Owner, 0);
 };

@@ -2,10 +2,13 @@
 
 void HostKeyCapture::startKeyCapture(QWidget *widget)
 {
+    if (m_widget == widget)
+        return;
     m_widget = widget;
+    emit capturingChanged();
 }
 
 void HostKeyCapture::stopKeyCapture()
 {
-    m_widget.clear();
+    startKeyCapture(nullptr);
 }

@@ -77,6 +77,10 @@ MainWindow::MainWindow(ShellContext &context)
 MainWindow::~MainWindow()
 {
     qApp->removeEventFilter(this);
+    // what the pages let go of while they go, the keyboard for one, is told to nobody here
+    m_context.disconnect(this);
+    m_context.store().disconnect(this);
+    m_context.services().keyCapture().disconnect(this);
 }
 
 // ---- putting together ----
@@ -263,6 +267,8 @@ void MainWindow::connectContext()
     connect(&store, &ProfileStore::settingChanged, this, &MainWindow::onSettingChanged);
     connect(&store, &ProfileStore::viewChanged, this, &MainWindow::sayWhoHasTheKeyboard);
     connect(&m_context, &ShellContext::profileShown, this, &MainWindow::sayWhoHasTheKeyboard);
+    connect(&m_context.services().keyCapture(), &HostKeyCapture::capturingChanged, this,
+            &MainWindow::sayWhoHasTheKeyboard);
     for (const QString &text : store.messages())
         m_messages->add(text);
     connect(&store, &ProfileStore::message, m_messages, &MessageBar::add);
@@ -314,15 +320,24 @@ std::pair<int, QString> MainWindow::lastStep() const
 
 void MainWindow::sayWhoHasTheKeyboard()
 {
-    const bool wasSaid = !m_captureHint.isEmpty() && m_status->text() == m_captureHint;
+    const bool wasSaid = isHintSaid();
     const int key = m_context.store().getCurrentKey(m_context.owner(), m_context.profile());
     m_captureHint.clear();
-    if (key < KeyCount && m_context.services().keyCapture().capturing())
+    // not while a macro is recorded
+    const QWidget *const capturing = m_context.services().keyCapture().capturing();
+    if (key < KeyCount && capturing && m_mapping->isAncestorOf(capturing))
         m_captureHint = tr("%1 takes the next key you press. Ctrl+K, with no key selected, "
                            "switches that off.")
                             .arg(KeyTitle::withLegend(key));
-    if (wasSaid || !m_captureHint.isEmpty())
+    if (!m_captureHint.isEmpty())
         m_status->setText(m_captureHint);
+    else if (wasSaid)
+        say(lastStep() == m_stepOfStatus ? QString() : m_context.store().undoName());
+}
+
+bool MainWindow::isHintSaid() const
+{
+    return !m_captureHint.isEmpty() && m_status->text() == m_captureHint;
 }
 
 // ---- pages ----
@@ -339,6 +354,7 @@ void MainWindow::showPage(ShellPage page)
             m_side->setCurrentWidget(entry.widget);
     }
     arrange();
+    emit m_context.pageShown(page);
 }
 
 void MainWindow::arrange()
@@ -415,8 +431,7 @@ void MainWindow::updateSteps()
     m_redo->setIconText(QStringLiteral("↷"));
     m_undo->setToolTip(Common::PlainTip(tr("Undo %1 (Ctrl+Z)").arg(store.undoName())));
     // What was said before another step does not hold any more.
-    const bool isHint = !m_captureHint.isEmpty() && m_status->text() == m_captureHint;
-    if (store.canUndo() && lastStep() != m_stepOfStatus && !isHint)
+    if (store.canUndo() && lastStep() != m_stepOfStatus && !isHintSaid())
         say(store.undoName());
     m_redo->setToolTip(Common::PlainTip(tr("Redo %1 (Ctrl+Shift+Z)").arg(store.redoName())));
 }

@@ -60,6 +60,7 @@ private:
     std::pair<int, QString> lastStep() const;
     void sayWhatIsPending();
     void sayWhoHasTheKeyboard();
+    bool isHintSaid() const;
     void arrange();
     void follow(const std::optional<StepOutcome> &outcome, const QString &text, int shown);
     void updateSteps();

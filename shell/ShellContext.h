@@ -64,6 +64,9 @@ signals:
     /// After the store has renamed it.
     void macroRenamed(const QString &oldName, const QString &newName);
 
+    /// The window has turned to that page.
+    void pageShown(ShellPage page);
+
     /// The device has taken the shown profile.
     void applied();
 

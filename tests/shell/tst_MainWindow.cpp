@@ -57,6 +57,8 @@ private slots:
     void languageKeepsTheSelection();
     void languageIsSpokenAtOnce();
     void captureCanBeForbidden();
+    void hintLeavesWithTheMappingPage();
+    void hintIsNotForRecordingMacros();
     void captureKeepsShortcutsOut();
     void releasesOfOtherWindowsAreNotTaken();
     void pressForOneKeyIsNotTakenByAnother();
@@ -563,6 +565,33 @@ void tst_MainWindow::captureCanBeForbidden()
     clickOn(key(7));
     m_window->mappingView()->setCaptureAllowed(false);
     QVERIFY(!m_shell->services.keyCapture().capturing());
+}
+
+void tst_MainWindow::hintLeavesWithTheMappingPage()
+{
+    const QString hint = QStringLiteral("Key 7 (W) takes the next key you press.");
+    m_window->resize(1024, 700);
+    clickOn(key(7));
+    m_shell->store().flush();
+    QVERIFY(said().startsWith(hint));
+    sendNativeKey(m_shell->services.keyCapture().capturing(), QEvent::KeyPress, 0x30, 0x42);
+    sendNativeKey(m_shell->services.keyCapture().capturing(), QEvent::KeyRelease, 0x30, 0x42);
+    m_shell->store().flush();
+    QVERIFY(said().startsWith(hint));
+    m_window->showPage(ShellPage::History);
+    QCOMPARE(said(), QStringLiteral("Assign B to key 7"));
+    m_window->undo();
+    QCOMPARE(said(), QStringLiteral("Undone: Assign B to key 7"));
+}
+
+void tst_MainWindow::hintIsNotForRecordingMacros()
+{
+    clickOn(key(7));
+    m_window->showPage(ShellPage::Macros);
+    clickOn(child<QPushButton>(m_window.get(), "m_recordBtn"));
+    m_shell->store().flush();
+    QVERIFY(m_shell->services.keyCapture().capturing());
+    QVERIFY2(!said().contains(QStringLiteral("Key 7 (W)")), qPrintable(said()));
 }
 
 void tst_MainWindow::captureKeepsShortcutsOut()

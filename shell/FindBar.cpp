@@ -40,6 +40,7 @@ FindBar::FindBar(ShellContext &context, QWidget *parent)
     connect(&store, &ProfileStore::profileChanged, this, &FindBar::forget);
     connect(&store, &ProfileStore::profileListChanged, this, &FindBar::forget);
     connect(&store, &ProfileStore::settingChanged, this, &FindBar::forget, Qt::QueuedConnection);
+    connect(&context, &ShellContext::pageShown, this, &FindBar::closeResults);
 }
 
 FindBar::~FindBar()
@@ -97,19 +98,28 @@ void FindBar::makeResults()
 void FindBar::forget()
 {
     m_isRead = false;
-    if (m_results && m_results->isVisible())
-        search();
+    if (m_field->text().isEmpty())
+        return;
+    mark();
+    if (isOpen())
+        showHits();
 }
 
 void FindBar::search()
+{
+    mark();
+    if (!m_results)
+        makeResults();
+    showHits();
+}
+
+/// Finds, and tells whom it is found for; the list is another matter.
+void FindBar::mark()
 {
     if (!m_isRead)
         m_finder.read(m_context.store().state(), m_context.owner());
     m_isRead = true;
     m_hits = m_finder.find(m_field->text(), m_context.profile());
-    if (!m_results)
-        makeResults();
-    showHits();
     std::set<std::pair<int, int>> marked;
     for (const KeyHit &hit : m_hits)
         marked.insert({hit.profile, hit.keyIdx});
@@ -127,11 +137,11 @@ void FindBar::showHits()
     m_list->clear();
     for (int i = 0; i < shown; ++i) {
         const KeyHit &hit = m_hits[std::size_t(i)];
-        auto *const item = new QListWidgetItem(
-            QStringLiteral("%1  \u00B7  %2, %3")
-                .arg(hit.function, state.profileName(m_context.owner(), hit.profile),
-                     KeyTitle::of(hit.keyIdx)),
-            m_list);
+        auto *const item =
+            new QListWidgetItem(QStringLiteral("%1  \u00B7  %2, %3")
+                                    .arg(hit.function, KeyTitle::of(hit.keyIdx),
+                                         state.profileName(m_context.owner(), hit.profile)),
+                                m_list);
         item->setData(FunctionDelegate::KindRole, hit.inputType);
     }
     std::set<int> profiles;
@@ -198,27 +208,36 @@ void FindBar::go()
     if (row < 0 || row >= int(m_hits.size()))
         return;
     const KeyHit hit = m_hits[std::size_t(row)];
-    m_results->hide();
+    closeResults();
     emit m_context.goTo(hit.profile, hit.keyIdx);
 }
 
 void FindBar::end()
 {
     m_field->clear();
+    closeResults();
+}
+
+bool FindBar::isOpen() const
+{
+    return m_results && m_results->isVisible();
+}
+
+void FindBar::closeResults()
+{
     if (m_results)
         m_results->hide();
 }
 
 bool FindBar::fieldKey(int key)
 {
-    const bool isOpen = m_results && m_results->isVisible();
     constexpr int PageRows = 10;
     switch (key) {
     case Qt::Key_Up:
         move(-1);
         return true;
     case Qt::Key_Down:
-        if (!isOpen)
+        if (!isOpen())
             search();
         else
             move(1);
@@ -231,7 +250,7 @@ bool FindBar::fieldKey(int key)
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!isOpen)
+        if (!isOpen())
             search();
         go();
         return true;
@@ -247,8 +266,8 @@ bool FindBar::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress && fieldKey(static_cast<QKeyEvent *>(event)->key()))
         return true;
-    if (event->type() == QEvent::FocusOut && m_results)
-        m_results->hide();
+    if (event->type() == QEvent::FocusOut)
+        closeResults();
     return QWidget::eventFilter(watched, event);
 }
 

@@ -36,12 +36,15 @@ protected:
 private:
     void makeResults();
     void search();
+    void mark();
     void forget();
     void showHits();
     void placeResults();
     void showProfileOf(int row);
     void move(int by);
     void go();
+    bool isOpen() const;
+    void closeResults();
     void end();
     bool fieldKey(int key);
 

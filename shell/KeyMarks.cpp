@@ -10,6 +10,7 @@ KeyMarks::KeyMarks(QWidget *page) : QWidget(page)
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_NoSystemBackground);
     setFocusPolicy(Qt::NoFocus);
+    setObjectName(QStringLiteral("m_keyMarks"));
     setGeometry(page->rect());
     page->installEventFilter(this);
     hide();
@@ -46,5 +47,9 @@ bool KeyMarks::eventFilter(QObject *, QEvent *event)
 {
     if (event->type() == QEvent::Resize)
         setGeometry(parentWidget()->rect());
+    // the keys take their new places after this
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+        QMetaObject::invokeMethod(
+            this, [this] { update(); }, Qt::QueuedConnection);
     return false;
 }

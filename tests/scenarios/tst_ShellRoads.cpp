@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QListWidget>
+#include <QScreen>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -43,6 +44,7 @@ private slots:
     void exportAndImport();
     void devicePlays();
     void findGoesThere();
+    void foundKeysLeaveNoTraces();
     void checkLeadsToTheKey();
     void settingsChangeTheLegends();
     void keyboardAlone();
@@ -254,6 +256,31 @@ void tst_ShellRoads::findGoesThere()
     QCOMPARE(m_context->profile(), 4);
     QVERIFY(key(12)->isChecked());
     QCOMPARE(store().getCurrentKey(0, 4), 12);
+}
+
+void tst_ShellRoads::foundKeysLeaveNoTraces()
+{
+    XGestures::key(QStringLiteral("ctrl+f"));
+    XGestures::type(QStringLiteral("unassigned"));
+    XGestures::key(QStringLiteral("Return"));
+    for (const QSize &size : {QSize(1700, 1100), QSize(1384, 800)}) {
+        XGestures::xdotool({QStringLiteral("windowsize"), QString::number(m_window->winId()),
+                            QString::number(size.width()), QString::number(size.height())});
+        QTRY_COMPARE(m_window->size(), size);
+        QTest::qWait(200);
+    }
+    const QWidget *const page = m_window->mappingView();
+    const QRect place(page->mapTo(m_window.get(), QPoint()), page->size());
+    const auto onScreen = [&] {
+        return m_window->screen()
+            ->grabWindow(m_window->winId(), place.x(), place.y(), place.width(), place.height())
+            .toImage()
+            .convertToFormat(QImage::Format_RGB32);
+    };
+    const auto asDrawn = [&] {
+        return m_window->grab(place).toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    QTRY_VERIFY(onScreen() == asDrawn());
 }
 
 void tst_ShellRoads::checkLeadsToTheKey()

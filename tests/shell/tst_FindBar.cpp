@@ -35,6 +35,8 @@ private slots:
     void escapeEnds();
     void nothingFound();
     void changesAreFoundAtOnce();
+    void marksFollowAClosedList();
+    void anotherPageClosesTheList();
     void longListsAreCut();
     void staysInsideTheWindow();
 
@@ -85,7 +87,7 @@ void tst_FindBar::function()
 {
     m_shell->assign(7, 241, 3); // STOP
     QCOMPARE(find(QStringLiteral("stop")),
-             QStringList(QStringLiteral("STOP  \u00B7  PROFILE 4, Key 7")));
+             QStringList(QStringLiteral("STOP  \u00B7  Key 7, PROFILE 4")));
 }
 
 void tst_FindBar::macroName()
@@ -95,15 +97,15 @@ void tst_FindBar::macroName()
     store().setProfileName(0, 2, QStringLiteral("Mail"));
     store().flush();
     QCOMPARE(find(QStringLiteral("gree")),
-             QStringList(QStringLiteral("Greeting  \u00B7  Mail, Key 24")));
+             QStringList(QStringLiteral("Greeting  \u00B7  Key 24, Mail")));
 }
 
 void tst_FindBar::legendOfAnUnassignedKey()
 {
     const QStringList rows = find(QStringLiteral("w"));
     QCOMPARE(rows.size(), 24);
-    QCOMPARE(rows[0], QStringLiteral("W (unassigned)  \u00B7  PROFILE 1, Key 7"));
-    QCOMPARE(rows[23], QStringLiteral("W (unassigned)  \u00B7  PROFILE 24, Key 7"));
+    QCOMPARE(rows[0], QStringLiteral("W (unassigned)  \u00B7  Key 7, PROFILE 1"));
+    QCOMPARE(rows[23], QStringLiteral("W (unassigned)  \u00B7  Key 7, PROFILE 24"));
 }
 
 void tst_FindBar::partsOfADualAction()
@@ -114,7 +116,7 @@ void tst_FindBar::partsOfADualAction()
     store().setKeyMapping(0, 0, 3, &key);
     store().flush();
     QCOMPARE(find(QStringLiteral("m")),
-             QStringList(QStringLiteral("N > M at 45%  \u00B7  PROFILE 1, Key 3")));
+             QStringList(QStringLiteral("N > M at 45%  \u00B7  Key 3, PROFILE 1")));
 }
 
 void tst_FindBar::applicationFunction()
@@ -125,7 +127,7 @@ void tst_FindBar::applicationFunction()
     store().setAppAssign(0, 0, 3, &app);
     store().flush();
     QCOMPARE(find(QStringLiteral("blur")),
-             QStringList(QStringLiteral("PHOTOSHOP: BLUR  \u00B7  PROFILE 1, Key 3")));
+             QStringList(QStringLiteral("PHOTOSHOP: BLUR  \u00B7  Key 3, PROFILE 1")));
 }
 
 void tst_FindBar::order_data()
@@ -161,7 +163,7 @@ void tst_FindBar::oneLetterOnlyAtTheStartOfWords()
     store().setNamedMacroKey(0, 0, "My note", 2);
     store().flush();
     QCOMPARE(find(QStringLiteral("n")),
-             QStringList(QStringLiteral("My note  \u00B7  PROFILE 1, Key 2")));
+             QStringList(QStringLiteral("My note  \u00B7  Key 2, PROFILE 1")));
 }
 
 void tst_FindBar::shownProfileFirst()
@@ -170,8 +172,8 @@ void tst_FindBar::shownProfileFirst()
     m_shell->assign(8, 241, 5);
     m_shell->context.setProfile(5);
     QCOMPARE(find(QStringLiteral("stop")),
-             QStringList({QStringLiteral("STOP  \u00B7  PROFILE 6, Key 8"),
-                          QStringLiteral("STOP  \u00B7  PROFILE 4, Key 7")}));
+             QStringList({QStringLiteral("STOP  \u00B7  Key 8, PROFILE 6"),
+                          QStringLiteral("STOP  \u00B7  Key 7, PROFILE 4")}));
 }
 
 void tst_FindBar::hitsLightUp()
@@ -260,6 +262,32 @@ void tst_FindBar::changesAreFoundAtOnce()
     QCOMPARE(list()->count(), 1);
     store().undo();
     QCOMPARE(list()->count(), 0);
+}
+
+void tst_FindBar::marksFollowAClosedList()
+{
+    m_shell->assign(7, 241, 3);
+    find(QStringLiteral("stop"));
+    auto *const results = child<QWidget>(m_window.get(), "m_findResults");
+    pressKey(field(), Qt::Key_Return);
+    QVERIFY(!results->isVisible());
+    QVERIFY(m_marks == Marks({{3, 7}}));
+    m_shell->assign(9, 241, 3);
+    QVERIFY(m_marks == Marks({{3, 7}, {3, 9}}));
+    m_shell->assign(7, 5, 3);
+    QVERIFY(m_marks == Marks({{3, 9}}));
+    QVERIFY(!results->isVisible());
+}
+
+void tst_FindBar::anotherPageClosesTheList()
+{
+    m_shell->assign(7, 241, 3);
+    find(QStringLiteral("stop"));
+    auto *const results = child<QWidget>(m_window.get(), "m_findResults");
+    QVERIFY(results->isVisible());
+    emit m_shell->context.pageShown(ShellPage::History);
+    QVERIFY(!results->isVisible());
+    QVERIFY(m_marks == Marks({{3, 7}}));
 }
 
 void tst_FindBar::longListsAreCut()

@@ -45,6 +45,10 @@ MacroPage::MacroPage(ShellContext &context, QWidget *parent) : QWidget(parent), 
     connect(&context.store(), &ProfileStore::profileChanged, this, &MacroPage::onKeysChanged);
     connect(&context.store(), &ProfileStore::profileListChanged, this, &MacroPage::onKeysChanged);
     connect(&context, &ShellContext::newMacroRequested, this, &MacroPage::beginForKey);
+    connect(&context, &ShellContext::pageShown, this, [this](ShellPage page) {
+        if (page != ShellPage::Macros)
+            endForKey();
+    });
     refresh();
 }
 
@@ -342,8 +346,9 @@ void MacroPage::deleteMacro()
     m_editor->say({});
     refresh();
     emit m_context.status(
-        keys == 0
-            ? tr("Macro %1 was deleted.").arg(name)
+        keys == 0 ? tr("Macro %1 was deleted.").arg(name)
+        : keys == 1
+            ? tr("Macro %1 was deleted and taken off one key.").arg(name)
             : tr("Macro %1 was deleted and taken off %2 keys.").arg(name, QString::number(keys)));
 }
 
@@ -351,23 +356,39 @@ void MacroPage::deleteMacro()
 
 void MacroPage::beginForKey()
 {
-    m_begun = make(tr("Macro"), vantrix_macro_record());
+    m_editor->stopRecording();
+    if (isBegunEmpty())
+        selectMacro(m_begun);
+    else
+        m_begun = make(tr("Macro"), vantrix_macro_record());
     m_backBtn->show();
     m_editor->beginHere();
     emit m_context.status(tr("Record the macro, then go back and choose it for the key."));
 }
 
-void MacroPage::goBack()
+/// True while the macro that was begun for a key has no event and no key.
+bool MacroPage::isBegunEmpty() const
+{
+    const ProfileStore &store = m_context.store();
+    const auto macro = store.state().macro(m_context.owner(), m_begun);
+    return macro && macro->count == 0 && store.keysOfMacro(m_context.owner(), m_begun).empty();
+}
+
+/// However the page is left, nothing of the way to it stays.
+void MacroPage::endForKey()
 {
     m_editor->stopRecording();
     m_backBtn->hide();
-    const auto macro = m_context.store().state().macro(m_context.owner(), m_begun);
-    if (macro && macro->count == 0 &&
-        m_context.store().keysOfMacro(m_context.owner(), m_begun).empty()) {
+    if (isBegunEmpty()) {
         m_current = m_begun;
         deleteMacro();
         emit m_context.status(tr("The new macro was empty and was not kept."));
     }
     m_begun.clear();
+}
+
+void MacroPage::goBack()
+{
+    endForKey();
     emit m_context.pageRequested(ShellPage::Mapping);
 }

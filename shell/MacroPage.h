@@ -66,6 +66,8 @@ private:
     void duplicateMacro();
     void renameMacro();
     void deleteMacro();
+    bool isBegunEmpty() const;
+    void endForKey();
     void goBack();
 
     ShellContext &m_context;

@@ -693,6 +693,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>Make another macro with the same events</source>
         <translation>用相同的事件创建另一个宏</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>已删除宏 %1，并从一个按键上移除。</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

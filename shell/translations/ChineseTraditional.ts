@@ -693,6 +693,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>Make another macro with the same events</source>
         <translation>用相同的事件建立另一個巨集</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>已刪除巨集 %1，並從一個按鍵移除。</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

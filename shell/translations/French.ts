@@ -693,6 +693,10 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
         <source>Make another macro with the same events</source>
         <translation>Créer une autre macro avec les mêmes événements</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>La macro %1 a été supprimée et retirée d’une touche.</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

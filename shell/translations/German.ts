@@ -693,6 +693,10 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
         <source>Make another macro with the same events</source>
         <translation>Ein weiteres Makro mit denselben Ereignissen anlegen</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>Makro %1 wurde gelöscht und von einer Taste genommen.</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

@@ -693,6 +693,10 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
         <source>Make another macro with the same events</source>
         <translation>Crea un’altra macro con gli stessi eventi</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>La macro %1 è stata eliminata e tolta da un tasto.</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

@@ -693,6 +693,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>Make another macro with the same events</source>
         <translation>同じイベントを持つ別のマクロを作成</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>マクロ %1 を削除し、1 個のキーから外しました。</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

@@ -693,6 +693,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>Make another macro with the same events</source>
         <translation>같은 이벤트로 다른 매크로 만들기</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>매크로 %1을(를) 삭제하고 키 1개에서 제거했습니다.</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

@@ -693,6 +693,10 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
         <source>Make another macro with the same events</source>
         <translation>Cipta makro lain dengan peristiwa yang sama</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>Makro %1 telah dipadam dan ditanggalkan daripada satu kekunci.</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

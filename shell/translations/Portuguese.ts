@@ -693,6 +693,10 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
         <source>Make another macro with the same events</source>
         <translation>Criar outra macro com os mesmos eventos</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>A macro %1 foi eliminada e retirada de uma tecla.</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

@@ -693,6 +693,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>Make another macro with the same events</source>
         <translation>Создать другой макрос с теми же событиями</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>Макрос %1 удалён и снят с одной клавиши.</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

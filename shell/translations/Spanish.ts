@@ -693,6 +693,10 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
         <source>Make another macro with the same events</source>
         <translation>Crear otra macro con los mismos eventos</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>La macro %1 se ha eliminado y quitado de una tecla.</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

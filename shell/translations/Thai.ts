@@ -693,6 +693,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>Make another macro with the same events</source>
         <translation>สร้างมาโครอื่นที่มีเหตุการณ์เดียวกัน</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>ลบมาโคร %1 และนำออกจากหนึ่งปุ่มแล้ว</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

@@ -693,6 +693,10 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
         <source>Make another macro with the same events</source>
         <translation>Aynı olaylarla başka bir makro oluştur</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>%1 makrosu silindi ve bir tuştan kaldırıldı.</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

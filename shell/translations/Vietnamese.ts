@@ -693,6 +693,10 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
         <source>Make another macro with the same events</source>
         <translation>Tạo macro khác với cùng các sự kiện</translation>
     </message>
+    <message>
+        <source>Macro %1 was deleted and taken off one key.</source>
+        <translation>Đã xóa macro %1 và gỡ khỏi một phím.</translation>
+    </message>
 </context>
 <context>
     <name>MacroRecorder</name>

@@ -63,6 +63,8 @@ private slots:
     void changesBehindItsBackAreShown();
     void beginForAKeyAndBack();
     void beginForAKeyAndBackWithNothing();
+    void leftByATabWithNothing();
+    void begunTwiceForAKey();
     void anyOrderOfGestures_data();
     void anyOrderOfGestures();
     void foreignBytesStay();
@@ -666,6 +668,31 @@ void tst_MacroPage::beginForAKeyAndBackWithNothing()
     click("m_backBtn");
     QVERIFY(names().isEmpty());
     QCOMPARE(removed.count(), 1);
+}
+
+void tst_MacroPage::leftByATabWithNothing()
+{
+    emit m_shell->context.newMacroRequested();
+    emit m_shell->context.pageShown(ShellPage::Macros);
+    QCOMPARE(names(), QStringList(QStringLiteral("Macro")));
+    emit m_shell->context.pageShown(ShellPage::History);
+    QVERIFY(names().isEmpty());
+    QVERIFY(!child<QPushButton>("m_backBtn")->isVisible());
+}
+
+void tst_MacroPage::begunTwiceForAKey()
+{
+    emit m_shell->context.newMacroRequested();
+    emit m_shell->context.newMacroRequested();
+    QCOMPARE(names(), QStringList(QStringLiteral("Macro")));
+    click("m_recordBtn");
+    type(0x1E, 0x41, 30);
+    emit m_shell->context.newMacroRequested();
+    QCOMPARE(names(), QStringList({QStringLiteral("Macro"), QStringLiteral("Macro 2")}));
+    QCOMPARE(int(events("Macro").size()), 2);
+    QVERIFY(child<QPushButton>("m_backBtn")->isVisible());
+    emit m_shell->context.pageShown(ShellPage::Mapping);
+    QCOMPARE(names(), QStringList(QStringLiteral("Macro")));
 }
 
 void tst_MacroPage::anyOrderOfGestures_data()

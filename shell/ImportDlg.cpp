@@ -75,7 +75,7 @@ ImportDlg::ImportDlg(ShellContext &context, QWidget *parent)
     layout->addWidget(m_macros);
     layout->addWidget(m_message);
     layout->addLayout(end);
-    open->setAutoDefault(false);
+    m_importBtn->setDefault(true);
     open->setFocus(); // nothing else can be done first
     m_cancelBtn->setAutoDefault(false);
 
@@ -113,6 +113,8 @@ bool ImportDlg::openFile(const QString &fileName)
         m_isRead = true;
     }
     fill();
+    if (m_isRead)
+        m_list->setFocus(); // Enter imports from there
     say(error, true);
     showState();
     return m_isRead;

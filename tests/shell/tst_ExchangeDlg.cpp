@@ -43,6 +43,7 @@ private slots:
     void oneStep();
     void saysWhatWasLeftOut();
     void openByTheUser();
+    void openAndImportByEnter();
     void cancelChangesNothing();
 
 private:
@@ -388,6 +389,25 @@ void tst_ExchangeDlg::openByTheUser()
              QStringLiteral("PROFILE 1"));
     QCOMPARE(child<QTreeWidget>(&dialog, "m_importList")->topLevelItem(0)->text(1),
              QStringLiteral("1"));
+}
+
+void tst_ExchangeDlg::openAndImportByEnter()
+{
+    m_shell->assign(7, 5);
+    const QString name = write("one.json", json({0}));
+    store().clearProfile(0, 0);
+    Modal::setAnswerer([&](const ModalPrompt &prompt) {
+        return QVariant(prompt.kind == ModalPrompt::OpenFile ? name : QString());
+    });
+    ImportDlg dialog(m_shell->context);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    QCOMPARE(child<QLabel>(&dialog, "m_importFile")->text(), QStringLiteral("one.json"));
+    QCOMPARE(store().state().mapping(0, 0, 7), clearedKey());
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    QCOMPARE(store().state().mapping(0, 0, 7), plainKey(5));
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
 }
 
 void tst_ExchangeDlg::cancelChangesNothing()

@@ -256,18 +256,18 @@ bool StoreKeeper::writeAnew()
 
 StoreError StoreKeeper::makeAnew()
 {
-    if (QFile::exists(m_name)) {
-        const QString aside = StoreFile::setAside(m_name, QStringLiteral("replaced"));
+    const QString aside =
+        QFile::exists(m_name) ? StoreFile::setAside(m_name, QStringLiteral("replaced")) : QString();
+    if (!aside.isEmpty())
         m_lossNote = tr("The store %1 was replaced by another file while the program was running. "
                         "That file was kept as %2, and the store was written again.")
                          .arg(shortName(m_name), shortName(aside));
-        if (aside.isEmpty())
-            return StoreError::ReadOnly;
-    } else if (m_lossNote.isEmpty()) {
+    else if (m_lossNote.isEmpty())
         m_lossNote = tr("The store %1 was removed while the program was running. It was written "
                         "again.")
                          .arg(shortName(m_name));
-    }
+    if (QFile::exists(m_name))
+        return StoreError::ReadOnly; // it could not be set aside
     if (!QFile::exists(m_name + lockSuffix()))
         m_lock.unlock();
     if (!lock())

@@ -35,13 +35,7 @@ QString macroAssignLimitKey()
 ProfileStore::ProfileStore(const QString &fileName, QObject *parent)
     : QObject(parent), m_keeper(std::make_unique<StoreKeeper>(fileName))
 {
-    StoreContent content = m_keeper->open();
-    m_state = content.state;
-    m_history.restore(std::move(content.steps), content.position, content.drift);
-    for (const auto &[id, bytes] : m_state.records()) {
-        if (id.table == StoreTable::AppPath)
-            m_paths[id.index] = QString::fromUtf8(bytes);
-    }
+    take(m_keeper->open());
     m_retry.setInterval(RetryMs);
     connect(&m_retry, &QTimer::timeout, this, &ProfileStore::save);
     m_wasSaved = m_keeper->isSaved();
@@ -56,6 +50,31 @@ ProfileStore::~ProfileStore()
     const QSignalBlocker silence(this);
     if (flush())
         m_keeper->close();
+}
+
+void ProfileStore::take(StoreContent content)
+{
+    m_state = std::move(content.state);
+    m_history.restore(std::move(content.steps), content.position, content.drift);
+    const std::lock_guard lock(m_pathMutex);
+    for (const auto &[id, bytes] : m_state.records()) {
+        if (id.table == StoreTable::AppPath)
+            m_paths[id.index] = QString::fromUtf8(bytes);
+    }
+}
+
+/// Shows what was on disk all the while in place of what there is in memory.
+void ProfileStore::replaceAll(StoreContent content)
+{
+    const Replacing replacing(this);
+    const StoreState before = m_state;
+    take(std::move(content));
+    for (const StoreState &state : {before, m_state}) {
+        for (const auto &row : state.records())
+            note(row.first);
+    }
+    m_news.steps = true;
+    scheduleTurnEnd();
 }
 
 // ---- the one place where something changes ----
@@ -289,6 +308,8 @@ bool ProfileStore::save()
         m_unsaved.clear();
         m_history.markSaved();
         m_retry.stop();
+        if (auto found = m_keeper->takeFound())
+            replaceAll(std::move(*found));
     } else if (!m_retry.isActive()) {
         m_retry.start();
     }
@@ -350,10 +371,8 @@ bool ProfileStore::hasUnsavedWork() const
 {
     if (isSaved() || isReadOnly())
         return false;
-    return m_keeper->isLost() ||
-           std::any_of(m_unsaved.begin(), m_unsaved.end(), [](const RecordId &id) {
-               return kindOf(id.table) == StoreKind::Content || id.table == StoreTable::DeviceImage;
-           });
+    return m_keeper->isLost() || std::any_of(m_unsaved.begin(), m_unsaved.end(),
+                                             [](const RecordId &id) { return isWork(id.table); });
 }
 
 void ProfileStore::setPageLimit(int pages)

@@ -12,6 +12,7 @@
 #include <set>
 
 class StoreKeeper;
+struct StoreContent;
 
 /// What a step back or forth led to: where to look, and what was selected there.
 struct StepOutcome
@@ -222,6 +223,8 @@ private:
     using Scope = std::pair<int, int>;
 
     static bool isValid(int profile) { return profile >= 0 && profile < ProfileCount; }
+    void take(StoreContent content);
+    void replaceAll(StoreContent content);
     void change(const RecordId &id, const QByteArray &bytes);
     void put(const RecordId &id, const QByteArray &bytes);
     void note(const RecordId &id);

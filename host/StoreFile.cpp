@@ -131,15 +131,18 @@ StoreError StoreFile::open(const QString &name, Access access)
     close();
     m_name = name;
     m_fileId = fileId(name);
+    m_isWhole = true;
     const QString timeout = QStringLiteral("QSQLITE_BUSY_TIMEOUT=200");
     const QString reading = QStringLiteral("QSQLITE_OPEN_READONLY;") + timeout;
     if (access == ReadOnlyAccess) {
         const StoreError error = connect(name, reading);
-        if (error != StoreError::ReadOnly)
+        if (error != StoreError::ReadOnly && error != StoreError::Failed)
             return error;
-        // SQLite keeps files beside a store even for reading, unless told that nobody writes
+        // SQLite keeps files beside a store even for reading, which takes a folder that can be
+        // written and room, unless it is told that nobody writes; then it passes over its journal
         close();
         m_name = name;
+        m_isWhole = QFileInfo(name + QStringLiteral("-wal")).size() == 0;
         const QString url = QString::fromLatin1(QUrl::fromLocalFile(name).toEncoded()) +
                             QStringLiteral("?immutable=1");
         return connect(url, QStringLiteral("QSQLITE_OPEN_URI;") + reading);

@@ -51,6 +51,8 @@ public:
     StoreError open(const QString &name, Access access);
     void close();
     bool isOpen() const { return m_db.isOpen(); }
+    /// False where what was written last could not be read along with the file.
+    bool isWhole() const { return m_isWhole; }
     /// True while the file of that name still is the one that was opened.
     bool isInPlace() const;
 
@@ -100,5 +102,6 @@ private:
     QSqlDatabase m_db;
     QString m_name;
     quint64 m_fileId = 0;
+    bool m_isWhole = true;
     std::unique_ptr<Statements> m_statements;
 };

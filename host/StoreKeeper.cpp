@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
-#include <utility>
+#include <algorithm>
 
 namespace {
 
@@ -72,36 +72,48 @@ void StoreKeeper::readOnly(StoreContent *content)
             .arg(shortName(m_name)));
 }
 
-void StoreKeeper::readElsewhere(const QString &name, StoreContent *content)
+StoreKeeper::Reading StoreKeeper::readElsewhere(const QString &name, StoreContent *content)
 {
+    if (!QFile::exists(name))
+        return Unread;
     StoreFile file;
     const StoreError error = file.open(name, StoreFile::ReadOnlyAccess);
-    if (error == StoreError::None)
-        file.load(content);
-    if (error != StoreError::Older)
-        return;
-    const QTemporaryDir elsewhere;
-    const QString copy = elsewhere.filePath(QStringLiteral("store"));
-    if (StoreMigration::migrate(name, copy) == StoreError::None)
-        readElsewhere(copy, content);
+    if (error == StoreError::Older) {
+        const QTemporaryDir elsewhere;
+        const QString copy = elsewhere.filePath(QStringLiteral("store"));
+        const bool isCopied = StoreMigration::migrate(name, copy) == StoreError::None;
+        return isCopied ? readElsewhere(copy, content) : Unread;
+    }
+    StoreContent loaded;
+    if (error != StoreError::None || file.load(&loaded) != StoreError::None)
+        return Unread;
+    *content = std::move(loaded);
+    return file.isWhole() ? Whole : Partly;
 }
 
 /// Opens the file for writing; on failure `content` is what can be read all the same.
-bool StoreKeeper::takeOver(StoreContent *content)
+void StoreKeeper::takeOver(StoreContent *content)
 {
     const StoreError error = openAny(content);
     if (error == StoreError::None) {
         m_access = Writer;
-        return true;
+        return;
     }
     m_file.close();
     m_access = InMemory;
     m_writeAll = true;
     m_saved = false;
-    if (content->state.records().empty())
-        readElsewhere(m_name, content);
     report(error);
-    return false;
+    if (m_isRead)
+        return;
+    Reading reading = readElsewhere(m_name, content);
+    m_isRead = reading == Whole;
+    if (reading == Unread)
+        reading = readElsewhere(backupName(), content);
+    if (!m_isRead && QFile::exists(m_name))
+        say(reading == Unread
+                ? tr("What it holds is shown as soon as it can be read.")
+                : tr("The last good copy of it is shown until what it holds can be read."));
 }
 
 StoreError StoreKeeper::openAny(StoreContent *content)
@@ -132,7 +144,8 @@ StoreError StoreKeeper::openAndLoad(StoreContent *content)
         return openInsteadOf(error, content);
     if (error != StoreError::None)
         return error;
-    *content = loaded;
+    *content = std::move(loaded);
+    m_isRead = true;
     // a file in a folder that can't be written opens without complaint, so ask it
     error = m_file.probe();
     if (error == StoreError::None && !m_backupIsFresh)
@@ -142,10 +155,12 @@ StoreError StoreKeeper::openAndLoad(StoreContent *content)
 
 StoreError StoreKeeper::openNew(StoreContent *content)
 {
-    if (restoreBackup())
+    bool isFound = false;
+    const StoreError error = openCopy(content, &isFound);
+    if (isFound)
         say(tr("The store %1 was missing. The last good copy of it is used.")
                 .arg(shortName(m_name)));
-    return openFresh(content);
+    return error;
 }
 
 /// Opens what was just put in place, or an empty store when nothing was.
@@ -157,16 +172,23 @@ StoreError StoreKeeper::openFresh(StoreContent *content)
             return error;
     }
     const StoreError error = m_file.open(m_name, StoreFile::ReadWrite);
+    if (error == StoreError::Older)
+        return openOlder(content);
     return error == StoreError::None ? openAndLoad(content) : error;
 }
 
-/// Puts the last good copy, if it is good, where the store should be.
-bool StoreKeeper::restoreBackup()
+/// Opens the last good copy where the store should be, or an empty store when there is none. A
+/// copy for which there is no room is read all the same.
+StoreError StoreKeeper::openCopy(StoreContent *content, bool *isFound)
 {
+    *isFound = readElsewhere(backupName(), content) != Unread;
+    m_isRead = *isFound; // there is no other file that could be read later
+    if (!*isFound)
+        return openFresh(content);
     StoreFile backup;
-    return QFile::exists(backupName()) &&
-           backup.open(backupName(), StoreFile::ReadOnlyAccess) == StoreError::None &&
-           backup.copyTo(m_name) == StoreError::None;
+    backup.open(backupName(), StoreFile::ReadOnlyAccess);
+    const StoreError error = backup.copyTo(m_name);
+    return error == StoreError::None ? openFresh(content) : error;
 }
 
 StoreError StoreKeeper::openInsteadOf(StoreError error, StoreContent *content)
@@ -178,16 +200,19 @@ StoreError StoreKeeper::openInsteadOf(StoreError error, StoreContent *content)
     const QString reason = newer
                                ? tr("The store %1 was written by a newer version of this program.")
                                : tr("The store %1 is damaged and cannot be read.");
-    QString outcome = aside.isEmpty() ? tr("It was left as it is.")
-                                      : tr("It was kept as %1.").arg(shortName(aside));
+    const QString outcome = aside.isEmpty() ? tr("It was left as it is.")
+                                            : tr("It was kept as %1.").arg(shortName(aside));
+    bool isFound = false;
+    StoreError result = StoreError::ReadOnly;
     if (aside.isEmpty())
-        readElsewhere(backupName(), content);
-    const bool restored = aside.isEmpty() ? !content->state.records().empty() : restoreBackup();
-    outcome += QLatin1Char(' ') +
-               (restored ? tr("The last good copy is used.")
-                         : tr("There is no good copy of it, so everything starts empty."));
-    say(reason.arg(shortName(m_name)) + QLatin1Char(' ') + outcome);
-    return aside.isEmpty() ? StoreError::ReadOnly : openFresh(content);
+        isFound = readElsewhere(backupName(), content) != Unread;
+    else
+        result = openCopy(content, &isFound);
+    m_isRead = true; // what is left of the file is never used
+    const QString copy = isFound ? tr("The last good copy is used.")
+                                 : tr("There is no good copy of it, so everything starts empty.");
+    say(reason.arg(shortName(m_name)) + QLatin1Char(' ') + outcome + QLatin1Char(' ') + copy);
+    return result;
 }
 
 StoreError StoreKeeper::openOlder(StoreContent *content)
@@ -218,16 +243,39 @@ bool StoreKeeper::reopen()
         return writeAnew();
     if (!lock())
         return false;
-    StoreContent ignored;
-    const StoreError error = openAny(&ignored);
+    const bool wasRead = m_isRead;
+    const bool isThere = QFile::exists(m_name);
+    StoreContent found;
+    const StoreError error = wasRead && !isThere ? openFresh(&found) : openAny(&found);
     if (error != StoreError::None) {
+        m_isRead = wasRead;
         m_file.close();
         report(error);
         return false;
     }
     m_access = Writer;
     m_writeAll = true;
+    if (!wasRead && isThere)
+        m_found = std::move(found);
     return true;
+}
+
+/// Makes a new file beside the one that could not be read in time.
+StoreError StoreKeeper::replaceUnread()
+{
+    m_found.reset();
+    m_file.close();
+    const QString aside = StoreFile::setAside(m_name, QStringLiteral("unread"));
+    StoreError error = aside.isEmpty() ? StoreError::ReadOnly : StoreFile::create(m_name);
+    if (error == StoreError::None)
+        error = m_file.open(m_name, StoreFile::ReadWrite);
+    if (!aside.isEmpty())
+        say(tr("The store %1 could not be read before something was changed. It was kept as %2, "
+               "and a new store was begun.")
+                .arg(shortName(m_name), shortName(aside)));
+    else
+        m_isRead = false;
+    return error;
 }
 
 /// Sees to it that what is written goes to the file of that name.
@@ -291,10 +339,18 @@ bool StoreKeeper::save(const StoreState &state, const StoreHistory &history,
     const bool ready = m_access == Writer ? checkPlace() : reopen();
     if (!ready)
         return false;
-    const StoreError error =
-        m_writeAll ? m_file.saveAll(state, history) : m_file.save(state, history, changed);
+    const bool hasWork = std::any_of(changed.begin(), changed.end(),
+                                     [](const RecordId &id) { return isWork(id.table); });
+    if (m_found && !hasWork) {
+        say(tr("The store %1 can be read again, and is shown as it is.").arg(shortName(m_name)));
+        settle();
+        return true;
+    }
+    StoreError error = m_found ? replaceUnread() : StoreError::None;
+    if (error == StoreError::None)
+        error = m_writeAll ? m_file.saveAll(state, history) : m_file.save(state, history, changed);
     if (error != StoreError::None) {
-        if (error == StoreError::ReadOnly || error == StoreError::Damaged) {
+        if (error == StoreError::ReadOnly || error == StoreError::Damaged || !m_file.isOpen()) {
             // such a connection does not recover by itself
             m_file.close();
             m_access = InMemory;
@@ -304,14 +360,20 @@ bool StoreKeeper::save(const StoreState &state, const StoreHistory &history,
     }
     ++m_transactions;
     m_backupIsFresh = false;
-    m_writeAll = false;
-    m_saved = true;
     if (isLost())
         say(std::exchange(m_lossNote, QString()));
     if (m_reported != StoreError::None)
         say(tr("All changes are saved again."));
-    m_reported = StoreError::None;
+    settle();
     return true;
+}
+
+/// Disk and memory hold the same.
+void StoreKeeper::settle()
+{
+    m_writeAll = false;
+    m_saved = true;
+    m_reported = StoreError::None;
 }
 
 void StoreKeeper::close()

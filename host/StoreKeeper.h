@@ -6,6 +6,9 @@
 #include <QLockFile>
 #include <QStringList>
 
+#include <optional>
+#include <utility>
+
 /// Keeps a store's memory on disk, whatever happens to the disk. It decides what StoreFile does:
 ///
 /// - One writer: a lock file beside the store; who comes second reads only.
@@ -14,6 +17,8 @@
 ///   place.
 /// - A file of an earlier version is migrated on a copy; the original stays as "name.v1".
 /// - A file that cannot be written leaves everything in memory, and each later `save` tries again.
+/// - A file that cannot be read either is not written over: as soon as it can be read it is shown,
+///   or set aside where something was made meanwhile.
 ///
 /// What the user should know is put in plain words into `takeMessages`.
 class StoreKeeper
@@ -42,6 +47,9 @@ public:
     /// Transactions made so far.
     int transactionCount() const { return m_transactions; }
     QStringList takeMessages();
+    /// What a file holds that could not be read when it was opened, and can be now: it takes the
+    /// place of everything in memory. `save` finds it.
+    std::optional<StoreContent> takeFound() { return std::exchange(m_found, std::nullopt); }
 
     StoreFile &file() { return m_file; }
     QString backupName() const { return m_name + QStringLiteral(".bak"); }
@@ -50,20 +58,23 @@ private:
     enum AccessState { InMemory, SecondReader, Writer };
 
     bool lock();
-    bool takeOver(StoreContent *content);
+    void takeOver(StoreContent *content);
     StoreError openAny(StoreContent *content);
     StoreError openNew(StoreContent *content);
     StoreError openFresh(StoreContent *content);
     StoreError openOlder(StoreContent *content);
     StoreError openInsteadOf(StoreError error, StoreContent *content);
     StoreError openAndLoad(StoreContent *content);
-    bool restoreBackup();
+    StoreError openCopy(StoreContent *content, bool *isFound);
     void readOnly(StoreContent *content);
     bool reopen();
+    StoreError replaceUnread();
+    void settle();
     bool checkPlace();
     bool writeAnew();
     StoreError makeAnew();
-    void readElsewhere(const QString &name, StoreContent *content);
+    enum Reading { Unread, Partly, Whole };
+    Reading readElsewhere(const QString &name, StoreContent *content);
     void report(StoreError error);
     void say(const QString &message);
     QString shortName(const QString &name) const;
@@ -74,7 +85,9 @@ private:
     QStringList m_messages;
     /// What became of a file that went while the program was running, for when it is back.
     QString m_lossNote;
+    std::optional<StoreContent> m_found;
     AccessState m_access = InMemory;
+    bool m_isRead = false; ///< the file held nothing that memory has not got
     StoreError m_reported = StoreError::None;
     bool m_writeAll = false;
     bool m_saved = true;

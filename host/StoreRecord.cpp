@@ -54,6 +54,11 @@ StoreKind kindOf(StoreTable table)
     return Tables[std::size_t(table)].kind;
 }
 
+bool isWork(StoreTable table)
+{
+    return kindOf(table) == StoreKind::Content || table == StoreTable::DeviceImage;
+}
+
 const char *tableName(StoreTable table)
 {
     return Tables[std::size_t(table)].name;

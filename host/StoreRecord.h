@@ -77,6 +77,8 @@ using ChangeSet = std::map<RecordId, RecordChange>;
 void addChange(ChangeSet &changes, const RecordId &id, const RecordChange &change);
 
 StoreKind kindOf(StoreTable table);
+/// Whether a row is something that a person made and would miss: contents, and what was sent.
+bool isWork(StoreTable table);
 /// Name of a table in store files; never changes once a version has written it.
 const char *tableName(StoreTable table);
 /// The table of that name; false if there is none.

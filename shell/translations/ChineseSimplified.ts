@@ -1362,5 +1362,21 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The store %1 cannot be written.</source>
         <translation>无法写入存储 %1。</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>一旦可以读取，就会显示其内容。</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>在可以读取其内容之前，显示最后一个完好的副本。</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>存储 %1 在有更改之前无法读取。已另存为 %2，并新建了存储。</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>存储 %1 又可以读取，并按原样显示。</translation>
+    </message>
 </context>
 </TS>

@@ -1362,5 +1362,21 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The store %1 cannot be written.</source>
         <translation>無法寫入儲存區 %1。</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>一旦可以讀取，就會顯示其內容。</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>在可以讀取其內容之前，顯示最後一個完好的複本。</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>儲存區 %1 在有變更之前無法讀取。已保留為 %2，並建立了新的儲存區。</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>儲存區 %1 又可以讀取，並依原樣顯示。</translation>
+    </message>
 </context>
 </TS>

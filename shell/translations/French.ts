@@ -1363,5 +1363,21 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
         <source>The store %1 cannot be written.</source>
         <translation>La base %1 ne peut pas être écrite.</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>Son contenu s’affichera dès qu’il pourra être lu.</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>Sa dernière bonne copie s’affiche jusqu’à ce que son contenu puisse être lu.</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>La base %1 n’a pu être lue qu’après une modification. Elle a été conservée sous %2, et une nouvelle base a été commencée.</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>La base %1 est de nouveau lisible et s’affiche telle quelle.</translation>
+    </message>
 </context>
 </TS>

@@ -1363,5 +1363,21 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
         <source>The store %1 cannot be written.</source>
         <translation>Der Speicher %1 kann nicht geschrieben werden.</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>Sein Inhalt wird gezeigt, sobald er gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>Die letzte gute Kopie wird gezeigt, bis sein Inhalt gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>Der Speicher %1 konnte erst gelesen werden, als schon etwas geändert war. Er wurde als %2 aufgehoben und ein neuer Speicher begonnen.</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>Der Speicher %1 kann wieder gelesen werden und wird gezeigt, wie er ist.</translation>
+    </message>
 </context>
 </TS>

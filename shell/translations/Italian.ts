@@ -1363,5 +1363,21 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
         <source>The store %1 cannot be written.</source>
         <translation>L’archivio %1 non può essere scritto.</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>Il suo contenuto appare appena può essere letto.</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>Appare l’ultima copia valida finché il suo contenuto non può essere letto.</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>L’archivio %1 si è potuto leggere solo dopo una modifica. È stato conservato come %2 ed è stato iniziato un nuovo archivio.</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>L’archivio %1 può essere letto di nuovo e appare com’è.</translation>
+    </message>
 </context>
 </TS>

@@ -1362,5 +1362,21 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The store %1 cannot be written.</source>
         <translation>データ %1 に書き込めません。</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>読み込めるようになり次第、内容を表示します。</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>内容を読み込めるまで、最後の正常なコピーを表示します。</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>データ %1 は、変更が行われるまで読み込めませんでした。%2 として残し、新しいデータを作りました。</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>データ %1 を再び読み込めるようになり、そのまま表示しています。</translation>
+    </message>
 </context>
 </TS>

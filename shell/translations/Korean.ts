@@ -1362,5 +1362,21 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The store %1 cannot be written.</source>
         <translation>저장소 %1에 쓸 수 없습니다.</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>읽을 수 있게 되는 즉시 내용을 표시합니다.</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>내용을 읽을 수 있을 때까지 마지막 정상 사본을 표시합니다.</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>저장소 %1을(를) 변경이 있기 전에 읽을 수 없었습니다. %2(으)로 보관하고 새 저장소를 시작했습니다.</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>저장소 %1을(를) 다시 읽을 수 있어 있는 그대로 표시합니다.</translation>
+    </message>
 </context>
 </TS>

@@ -1362,5 +1362,21 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
         <source>The store %1 cannot be written.</source>
         <translation>Storan %1 tidak dapat ditulis.</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>Kandungannya ditunjukkan sebaik sahaja dapat dibaca.</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>Salinan baik yang terakhir ditunjukkan sehingga kandungannya dapat dibaca.</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>Storan %1 tidak dapat dibaca sebelum sesuatu diubah. Ia disimpan sebagai %2 dan storan baharu dimulakan.</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>Storan %1 dapat dibaca semula dan ditunjukkan seadanya.</translation>
+    </message>
 </context>
 </TS>

@@ -1363,5 +1363,21 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
         <source>The store %1 cannot be written.</source>
         <translation>O armazém %1 não pode ser escrito.</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>O seu conteúdo é mostrado assim que puder ser lido.</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>É mostrada a última cópia boa até o seu conteúdo poder ser lido.</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>O armazém %1 não pôde ser lido antes de algo ser alterado. Foi mantido como %2 e foi começado um novo armazém.</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>O armazém %1 pode ser lido de novo e é mostrado tal como está.</translation>
+    </message>
 </context>
 </TS>

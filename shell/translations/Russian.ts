@@ -1364,5 +1364,21 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The store %1 cannot be written.</source>
         <translation>Не удаётся записать хранилище %1.</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>Его содержимое появится, как только его удастся прочитать.</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>Пока содержимое не удаётся прочитать, показана последняя исправная копия.</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>Хранилище %1 не удалось прочитать до первого изменения. Оно сохранено как %2, и начато новое хранилище.</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>Хранилище %1 снова читается и показано как есть.</translation>
+    </message>
 </context>
 </TS>

@@ -1363,5 +1363,21 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
         <source>The store %1 cannot be written.</source>
         <translation>No se puede escribir el almacén %1.</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>Su contenido se mostrará en cuanto se pueda leer.</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>Se muestra su última copia buena hasta que su contenido se pueda leer.</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>El almacén %1 no se pudo leer antes de que se cambiara algo. Se ha conservado como %2 y se ha empezado un almacén nuevo.</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>El almacén %1 se puede leer de nuevo y se muestra tal como está.</translation>
+    </message>
 </context>
 </TS>

@@ -1362,5 +1362,21 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The store %1 cannot be written.</source>
         <translation>เขียนคลังข้อมูล %1 ไม่ได้</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>เนื้อหาจะแสดงทันทีที่อ่านได้</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>แสดงสำเนาที่ดีล่าสุดจนกว่าจะอ่านเนื้อหาได้</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>อ่านคลังข้อมูล %1 ไม่ได้ก่อนที่จะมีการเปลี่ยนแปลง จึงเก็บไว้เป็น %2 และเริ่มคลังข้อมูลใหม่</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>อ่านคลังข้อมูล %1 ได้อีกครั้งและแสดงตามที่เป็นอยู่</translation>
+    </message>
 </context>
 </TS>

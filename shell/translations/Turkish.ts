@@ -1362,5 +1362,21 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
         <source>The store %1 cannot be written.</source>
         <translation>%1 deposu yazılamıyor.</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>İçeriği, okunabildiği anda gösterilecek.</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>İçeriği okunabilene kadar son sağlam kopyası gösteriliyor.</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>%1 deposu, bir şey değiştirilmeden önce okunamadı. %2 olarak saklandı ve yeni bir depo başlatıldı.</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>%1 deposu yeniden okunabiliyor ve olduğu gibi gösteriliyor.</translation>
+    </message>
 </context>
 </TS>

@@ -1362,5 +1362,21 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
         <source>The store %1 cannot be written.</source>
         <translation>Không ghi được kho %1.</translation>
     </message>
+    <message>
+        <source>What it holds is shown as soon as it can be read.</source>
+        <translation>Nội dung của kho sẽ hiện ngay khi đọc được.</translation>
+    </message>
+    <message>
+        <source>The last good copy of it is shown until what it holds can be read.</source>
+        <translation>Bản sao tốt gần nhất được hiện cho đến khi đọc được nội dung của kho.</translation>
+    </message>
+    <message>
+        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
+        <translation>Kho %1 không đọc được trước khi có thay đổi. Kho được giữ lại với tên %2 và một kho mới đã được bắt đầu.</translation>
+    </message>
+    <message>
+        <source>The store %1 can be read again, and is shown as it is.</source>
+        <translation>Kho %1 lại đọc được và được hiện nguyên trạng.</translation>
+    </message>
 </context>
 </TS>

@@ -3,11 +3,14 @@
 
 #include <QDir>
 #include <QSqlDatabase>
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QTemporaryDir>
 
 #ifdef Q_OS_LINUX
+#include <csignal>
 #include <sys/fsuid.h>
+#include <sys/resource.h>
 #include <unistd.h>
 #endif
 
@@ -31,6 +34,13 @@ private slots:
     void missingFolder();
     void readOnlyFolder();
     void brokenInReadOnlyFolder();
+    void heldAtStart_data();
+    void heldAtStart();
+    void unreadableAtStart();
+    void journalInReadOnlyFolder();
+    void fullDiskAtStart();
+    void brokenOnAFullDisk();
+    void missingOnAFullDisk();
     void fullDisk();
     void removedWhileRunning();
     void replacedWhileRunning();
@@ -122,6 +132,61 @@ public:
     OrdinaryUser(const OrdinaryUser &) = delete;
     OrdinaryUser &operator=(const OrdinaryUser &) = delete;
 };
+
+#ifdef Q_OS_LINUX
+/// No file can grow, as on a full disk.
+class FullDisk
+{
+public:
+    FullDisk()
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_limit);
+        const rlimit none = {0, m_limit.rlim_max};
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        ::setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~FullDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_limit);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+
+private:
+    rlimit m_limit = {};
+    void (*m_handler)(int) = nullptr;
+};
+#endif
+
+/// Another program that keeps everybody from a file.
+class Holder
+{
+public:
+    explicit Holder(const QString &name)
+    {
+        QSqlDatabase db =
+            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("holder"));
+        db.setDatabaseName(name);
+        m_isHolding =
+            db.open() && db.exec(QStringLiteral("PRAGMA locking_mode=EXCLUSIVE")).isActive() &&
+            db.exec(QStringLiteral("BEGIN EXCLUSIVE")).lastError().type() == QSqlError::NoError;
+    }
+    ~Holder()
+    {
+        QSqlDatabase::database(QStringLiteral("holder")).close();
+        QSqlDatabase::removeDatabase(QStringLiteral("holder"));
+    }
+    Holder(const Holder &) = delete;
+    Holder &operator=(const Holder &) = delete;
+    bool isHolding() const { return m_isHolding; }
+
+private:
+    bool m_isHolding = false;
+};
+
+const char *const CannotBeWritten = "The store my.store cannot be written. Changes are kept in "
+                                    "memory and saved as soon as possible.";
 
 } // namespace
 
@@ -302,6 +367,199 @@ void tst_StoreRobust::brokenInReadOnlyFolder()
     QCOMPARE(read(file()), QByteArray("nonsense"));
 #else
     QSKIP("needs a second user");
+#endif
+}
+
+void tst_StoreRobust::heldAtStart_data()
+{
+    QTest::addColumn<bool>("hasCopy");
+    QTest::addColumn<bool>("isEdited");
+    QTest::newRow("copy") << true << false;
+    QTest::newRow("no copy") << false << false;
+    QTest::newRow("copy, edited") << true << true;
+    QTest::newRow("no copy, edited") << false << true;
+}
+
+/// What could not be read is never written over.
+void tst_StoreRobust::heldAtStart()
+{
+    QFETCH(bool, hasCopy);
+    QFETCH(bool, isEdited);
+    makeStore();
+    if (!hasCopy)
+        QVERIFY(QFile::remove(file() + QStringLiteral(".bak")));
+    std::unique_ptr<ProfileStore> store;
+    {
+        const Holder holder(file());
+        QVERIFY(holder.isHolding());
+        store = std::make_unique<ProfileStore>(file());
+        QCOMPARE(codeOf(*store, 1), hasCopy ? 4 : 255);
+        store->setCurrentKey(Owner, 0, 9);
+        if (isEdited)
+            assign(*store, 2, 5);
+        QVERIFY(!store->flush());
+        QCOMPARE(store->messages(),
+                 QStringList({QStringLiteral("Another program is using the store my.store. Changes "
+                                             "are kept in memory and saved as soon as possible."),
+                              hasCopy ? QStringLiteral("The last good copy of it is shown until "
+                                                       "what it holds can be read.")
+                                      : QStringLiteral("What it holds is shown as soon as it can "
+                                                       "be read.")}));
+    }
+    QSignalSpy replaced(store.get(), &ProfileStore::profileReplaced);
+    QTRY_VERIFY(store->isSaved());
+    QCoreApplication::processEvents();
+    QCOMPARE(codeOf(*store, 1), hasCopy || !isEdited ? 4 : 255);
+    QCOMPARE(codeOf(*store, 2), isEdited ? 5 : 255);
+    QCOMPARE(store->messages().contains(
+                 QStringLiteral("The store my.store can be read again, and is shown as it is.")),
+             !isEdited);
+    QCOMPARE(replaced.count(), isEdited ? 0 : 1);
+    QCOMPARE(store->stepNames().size(), (hasCopy || !isEdited ? 1 : 0) + (isEdited ? 1 : 0));
+    store.reset();
+    const ProfileStore again(file());
+    QCOMPARE(codeOf(again, 1), hasCopy || !isEdited ? 4 : 255);
+    QCOMPARE(codeOf(again, 2), isEdited ? 5 : 255);
+    const QString unread = file() + QStringLiteral(".unread-1");
+    QCOMPARE(QFile::exists(unread), isEdited);
+    if (isEdited)
+        QCOMPARE(codeOf(ProfileStore(unread), 1), 4);
+}
+
+void tst_StoreRobust::unreadableAtStart()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    QVERIFY(QFile::remove(file() + QStringLiteral(".bak")));
+    letOthersRead();
+    QFile::setPermissions(file(), QFile::ReadOwner | QFile::WriteOwner);
+    std::unique_ptr<ProfileStore> store;
+    {
+        const OrdinaryUser user;
+        store = std::make_unique<ProfileStore>(file());
+        QCOMPARE(
+            store->messages(),
+            QStringList({QString::fromLatin1(CannotBeWritten),
+                         QStringLiteral("What it holds is shown as soon as it can be read.")}));
+        QCOMPARE(codeOf(*store, 1), 255);
+    }
+    QTRY_COMPARE(codeOf(*store, 1), 4);
+    assign(*store, 2, 5);
+    QVERIFY(store->flush());
+    store.reset();
+    const ProfileStore again(file());
+    QCOMPARE(codeOf(again, 1), 4);
+    QCOMPARE(codeOf(again, 2), 5);
+#else
+    QSKIP("needs a second user");
+#endif
+}
+
+/// What was written last lies in the journal of a program that was killed.
+void tst_StoreRobust::journalInReadOnlyFolder()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    {
+        ProfileStore killed(file());
+        assign(killed, 2, 5);
+        QVERIFY(killed.flush());
+        for (const char *suffix : {"", "-wal"}) {
+            QVERIFY(QFile::copy(file() + QLatin1String(suffix),
+                                m_folder->filePath(QLatin1String("left")) + QLatin1String(suffix)));
+        }
+    }
+    for (const char *suffix : {"", "-wal"}) {
+        QFile::remove(file() + QLatin1String(suffix));
+        QVERIFY(QFile::rename(m_folder->filePath(QLatin1String("left")) + QLatin1String(suffix),
+                              file() + QLatin1String(suffix)));
+    }
+    letOthersRead();
+    std::unique_ptr<ProfileStore> store;
+    {
+        const OrdinaryUser user;
+        store = std::make_unique<ProfileStore>(file());
+        QCOMPARE(codeOf(*store, 1), 4);
+        QCOMPARE(codeOf(*store, 2), 255);
+    }
+    QTRY_COMPARE(codeOf(*store, 2), 5);
+    QCOMPARE(codeOf(*store, 1), 4);
+#else
+    QSKIP("needs a second user");
+#endif
+}
+
+void tst_StoreRobust::fullDiskAtStart()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    std::unique_ptr<ProfileStore> store;
+    {
+        const FullDisk full;
+        store = std::make_unique<ProfileStore>(file());
+        QCOMPARE(store->messages(), QStringList(QString::fromLatin1(CannotBeWritten)));
+        QCOMPARE(codeOf(*store, 1), 4);
+        assign(*store, 2, 5);
+        QVERIFY(!store->flush());
+    }
+    QVERIFY(store->flush());
+    store.reset();
+    const ProfileStore again(file());
+    QCOMPARE(codeOf(again, 1), 4);
+    QCOMPARE(codeOf(again, 2), 5);
+    QVERIFY(!QFile::exists(file() + QStringLiteral(".unread-1")));
+#else
+    QSKIP("needs a limit on the size of files");
+#endif
+}
+
+void tst_StoreRobust::brokenOnAFullDisk()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    write(file(), "nonsense");
+    std::unique_ptr<ProfileStore> store;
+    {
+        const FullDisk full;
+        store = std::make_unique<ProfileStore>(file());
+        QCOMPARE(store->messages(),
+                 QStringList({QString::fromLatin1(Damaged), QString::fromLatin1(CannotBeWritten)}));
+        QCOMPARE(codeOf(*store, 1), 4);
+        assign(*store, 2, 5);
+        QVERIFY(!store->flush());
+    }
+    QVERIFY(store->flush());
+    QCOMPARE(store->messages().mid(2), QStringList(QStringLiteral("All changes are saved again.")));
+    store.reset();
+    const ProfileStore again(file());
+    QCOMPARE(codeOf(again, 1), 4);
+    QCOMPARE(codeOf(again, 2), 5);
+    QCOMPARE(read(file() + QStringLiteral(".broken-1")), QByteArray("nonsense"));
+#else
+    QSKIP("needs a limit on the size of files");
+#endif
+}
+
+void tst_StoreRobust::missingOnAFullDisk()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    QVERIFY(QFile::remove(file()));
+    std::unique_ptr<ProfileStore> store;
+    {
+        const FullDisk full;
+        store = std::make_unique<ProfileStore>(file());
+        QCOMPARE(codeOf(*store, 1), 4);
+        assign(*store, 2, 5);
+        QVERIFY(!store->flush());
+    }
+    QVERIFY(store->flush());
+    store.reset();
+    const ProfileStore again(file());
+    QCOMPARE(codeOf(again, 1), 4);
+    QCOMPARE(codeOf(again, 2), 5);
+#else
+    QSKIP("needs a limit on the size of files");
 #endif
 }
 

@@ -216,32 +216,49 @@ std::optional<StepOutcome> ProfileStore::undo()
 {
     if (m_stepDepth == 0)
         closeStep();
-    return canUndo() ? travel(false) : std::nullopt;
+    return travelTo(stepPosition() - 1);
 }
 
 std::optional<StepOutcome> ProfileStore::redo()
 {
     if (m_stepDepth == 0)
         closeStep();
-    return canRedo() ? travel(true) : std::nullopt;
+    return travelTo(stepPosition() + 1);
 }
 
-std::optional<StepOutcome> ProfileStore::travel(bool forth)
+std::optional<StepOutcome> ProfileStore::travelTo(int position)
+{
+    if (m_stepDepth == 0)
+        closeStep();
+    const bool isForth = position > stepPosition();
+    std::optional<StepOutcome> outcome;
+    while (position != stepPosition() && (isForth ? canRedo() : canUndo())) {
+        StepOutcome next = takeStep(isForth);
+        if (outcome) {
+            next.macrosChanged |= outcome->macrosChanged;
+            next.pressoChanged |= outcome->pressoChanged;
+        }
+        outcome = std::move(next);
+    }
+    if (outcome)
+        flush();
+    return outcome;
+}
+
+StepOutcome ProfileStore::takeStep(bool isForth)
 {
     const Replacing replacing(this);
-    const int index = forth ? m_history.position() : m_history.position() - 1;
+    const int index = isForth ? m_history.position() : m_history.position() - 1;
     const QString name = m_history.steps()[std::size_t(index)].name;
     ChangeSet changes;
     const std::vector<ChangeSet> writes =
-        forth ? m_history.redo(&changes) : m_history.undo(&changes);
+        isForth ? m_history.redo(&changes) : m_history.undo(&changes);
     for (const ChangeSet &set : writes) {
         for (const auto &[id, change] : set)
             put(id, change.after);
     }
     m_news.steps = true;
-    const StepOutcome outcome = outcomeOf(name, changes);
-    flush();
-    return outcome;
+    return outcomeOf(name, changes);
 }
 
 StepOutcome ProfileStore::outcomeOf(const QString &name, const ChangeSet &changes) const

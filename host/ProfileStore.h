@@ -55,7 +55,7 @@ class ProfileStore : public QObject, public IVantrixProfileCfg
 
 public:
     /// Assigns that need a macro (application, hot key, shortcut, macro) a profile can hold.
-    static constexpr int DefaultMacroAssignLimit = 64;
+    static constexpr int DefaultMacroAssignLimit = KeyCount;
 
     /// Opens the store of that file, and makes it if there is none. An empty name keeps everything
     /// in memory only.
@@ -170,6 +170,9 @@ public:
     /// One step back or forth; without one, or between `beginStep` and `endStep`, a null outcome.
     std::optional<StepOutcome> undo();
     std::optional<StepOutcome> redo();
+    /// As many steps as lead to that position, or as there are, saved and told at once. The
+    /// outcome is that of the last one, with what the others changed beside keys.
+    std::optional<StepOutcome> travelTo(int position);
     /// Names of all steps, oldest first; those from `stepPosition` on are undone.
     QStringList stepNames() const;
     int stepPosition() const;
@@ -234,7 +237,7 @@ private:
     template <typename T, typename Read>
     bool readKeys(int profile, std::map<uchar, T> *out, Read read) const;
     void changeMacroNames(int owner, const QStringList &names);
-    std::optional<StepOutcome> travel(bool forth);
+    StepOutcome takeStep(bool isForth);
     StepOutcome outcomeOf(const QString &name, const ChangeSet &changes) const;
     void takeOverPaths();
     void scheduleTurnEnd();

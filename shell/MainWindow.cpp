@@ -397,10 +397,9 @@ void MainWindow::redo()
 void MainWindow::travelTo(int position)
 {
     ProfileStore &store = m_context.store();
-    while (store.stepPosition() > position && store.canUndo())
-        undo();
-    while (store.stepPosition() < position && store.canRedo())
-        redo();
+    const bool isBack = position < store.stepPosition();
+    const int shown = m_mapping->showCount();
+    follow(store.travelTo(position), isBack ? tr("Undone: %1") : tr("Done again: %1"), shown);
 }
 
 /// `shown` is the number of showings before the step: one that changed keys has been shown
@@ -429,11 +428,14 @@ void MainWindow::updateSteps()
                                     : tr("&Redo"));
     m_undo->setIconText(QStringLiteral("↶"));
     m_redo->setIconText(QStringLiteral("↷"));
-    m_undo->setToolTip(Common::PlainTip(tr("Undo %1 (Ctrl+Z)").arg(store.undoName())));
+    m_undo->setToolTip(Common::PlainTip(
+        store.canUndo() ? tr("Undo %1 (Ctrl+Z)").arg(store.undoName()) : tr("Nothing to undo")));
     // What was said before another step does not hold any more.
     if (store.canUndo() && lastStep() != m_stepOfStatus && !isHintSaid())
         say(store.undoName());
-    m_redo->setToolTip(Common::PlainTip(tr("Redo %1 (Ctrl+Shift+Z)").arg(store.redoName())));
+    m_redo->setToolTip(Common::PlainTip(store.canRedo()
+                                            ? tr("Redo %1 (Ctrl+Shift+Z)").arg(store.redoName())
+                                            : tr("Nothing to redo")));
 }
 
 // ---- state ----

@@ -2,6 +2,7 @@
 
 #include "shell/ProfileDelegate.h"
 #include "shell/ShellStyle.h"
+#include "shell/WidgetKeys.h"
 #include "vocabulary/Common.h"
 
 #include <QHBoxLayout>
@@ -20,6 +21,13 @@ using Role = ProfileDelegate::Role;
 constexpr int FullWidth = 240;
 constexpr int CompactWidth = 60;
 
+/// Text of a menu entry with a key that the list alone answers to: in other lists and in fields
+/// it has a meaning of its own.
+QString withKey(const QString &text, int key)
+{
+    return text + QLatin1Char('\t') + QKeySequence(key).toString(QKeySequence::NativeText);
+}
+
 } // namespace
 
 ProfileList::ProfileList(ShellContext &context, QWidget *parent)
@@ -33,6 +41,10 @@ ProfileList::ProfileList(ShellContext &context, QWidget *parent)
     m_list->setItemDelegate(new ProfileDelegate(m_list));
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     connect(m_list, &QListWidget::itemDoubleClicked, this, &ProfileList::rename);
+    auto *const keys = new WidgetKeys(m_list);
+    keys->on(Qt::Key_F2, [this] { rename(); });
+    keys->on(Qt::ALT | Qt::Key_Up, [this] { moveUp(); });
+    keys->on(Qt::ALT | Qt::Key_Down, [this] { moveDown(); });
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setMouseTracking(true);
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -130,16 +142,16 @@ QToolButton *ProfileList::addButton(const QString &text, const QString &tip, con
 
 void ProfileList::fillMenu(QMenu *menu)
 {
-    menu->addAction(tr("&Rename..."), this, &ProfileList::rename, QKeySequence(Qt::Key_F2));
+    menu->addAction(withKey(tr("&Rename..."), Qt::Key_F2), this, &ProfileList::rename);
     menu->addAction(tr("&Duplicate"), this, &ProfileList::duplicate,
                     QKeySequence(Qt::CTRL | Qt::Key_D));
     QMenu *const targets = menu->addMenu(tr("Copy &Over"));
     connect(targets, &QMenu::aboutToShow, this, [this, targets] { fillTargets(targets); });
     menu->addAction(tr("&Clear"), this, &ProfileList::clear);
     menu->addSeparator();
-    menu->addAction(tr("Move &Up"), this, &ProfileList::moveUp, QKeySequence(Qt::ALT | Qt::Key_Up));
-    menu->addAction(tr("Move Do&wn"), this, &ProfileList::moveDown,
-                    QKeySequence(Qt::ALT | Qt::Key_Down));
+    menu->addAction(withKey(tr("Move &Up"), Qt::ALT | Qt::Key_Up), this, &ProfileList::moveUp);
+    menu->addAction(withKey(tr("Move Do&wn"), Qt::ALT | Qt::Key_Down), this,
+                    &ProfileList::moveDown);
     menu->addSeparator();
     menu->addAction(
         tr("&Next Profile"), this, [this] { showNext(1); },
@@ -292,6 +304,10 @@ void ProfileList::clear()
 {
     ProfileStore &store = m_context.store();
     const QString name = store.state().profileName(m_context.owner(), m_context.profile());
+    if (store.state().keys(m_context.owner(), m_context.profile()) == freshKeys()) {
+        emit m_context.status(tr("%1 has nothing on its keys.").arg(name));
+        return;
+    }
     {
         const StoreStepScope step(store, tr("Clear %1").arg(name));
         store.clearProfile(m_context.owner(), m_context.profile());

@@ -867,6 +867,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>更改无法保存，关闭窗口后将会丢失。要关闭吗？</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>没有可撤消的操作</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>没有可恢复的操作</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Move %1</source>
         <translation>移动 %1</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1 的按键上没有任何内容。</translation>
     </message>
 </context>
 <context>

@@ -867,6 +867,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>變更無法儲存，關閉視窗後將會遺失。要關閉嗎？</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>沒有可復原的操作</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>沒有可重做的操作</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Move %1</source>
         <translation>移動 %1</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1 的按鍵上沒有任何內容。</translation>
     </message>
 </context>
 <context>

@@ -867,6 +867,14 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>Les modifications ne peuvent pas être enregistrées et seront perdues avec la fenêtre. La fermer ?</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>Rien à annuler</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>Rien à rétablir</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
     <message>
         <source>Move %1</source>
         <translation>Déplacer %1</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1 n’a rien sur ses touches.</translation>
     </message>
 </context>
 <context>

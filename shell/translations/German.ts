@@ -867,6 +867,14 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>Die Änderungen können nicht gespeichert werden und gehen mit dem Fenster verloren. Schließen?</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>Nichts rückgängig zu machen</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>Nichts zu wiederholen</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
     <message>
         <source>Move %1</source>
         <translation>%1 verschieben</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1 hat nichts auf seinen Tasten.</translation>
     </message>
 </context>
 <context>

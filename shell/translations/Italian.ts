@@ -867,6 +867,14 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>Le modifiche non possono essere salvate e vanno perse con la finestra. Chiuderla?</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>Niente da annullare</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>Niente da ripetere</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
     <message>
         <source>Move %1</source>
         <translation>Sposta %1</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1 non ha nulla sui suoi tasti.</translation>
     </message>
 </context>
 <context>

@@ -867,6 +867,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>変更を保存できません。ウィンドウを閉じると失われます。閉じますか？</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>元に戻すものはありません</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>やり直すものはありません</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Move %1</source>
         <translation>%1 を移動</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1 のキーには何も割り当てられていません。</translation>
     </message>
 </context>
 <context>

@@ -867,6 +867,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>변경 내용을 저장할 수 없으며 창을 닫으면 사라집니다. 닫을까요?</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>실행 취소할 것이 없음</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>다시 실행할 것이 없음</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Move %1</source>
         <translation>%1 이동</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1의 키에 할당된 것이 없습니다.</translation>
     </message>
 </context>
 <context>

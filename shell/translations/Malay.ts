@@ -867,6 +867,14 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>Perubahan tidak dapat disimpan dan akan hilang bersama tetingkap. Tutup?</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>Tiada apa untuk dibuat asal</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>Tiada apa untuk dibuat semula</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
     <message>
         <source>Move %1</source>
         <translation>Alih %1</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1 tiada apa-apa pada kekuncinya.</translation>
     </message>
 </context>
 <context>

@@ -867,6 +867,14 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>As alterações não podem ser guardadas e perdem-se com a janela. Fechar?</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>Nada para anular</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>Nada para refazer</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
     <message>
         <source>Move %1</source>
         <translation>Mover %1</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1 não tem nada nas suas teclas.</translation>
     </message>
 </context>
 <context>

@@ -867,6 +867,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>Изменения нельзя сохранить, и они пропадут вместе с окном. Закрыть его?</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>Нечего отменять</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>Нечего повторять</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Move %1</source>
         <translation>Переместить %1</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>На клавишах %1 ничего нет.</translation>
     </message>
 </context>
 <context>

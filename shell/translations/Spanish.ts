@@ -867,6 +867,14 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>Los cambios no se pueden guardar y se pierden con la ventana. ¿Cerrarla?</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>Nada que deshacer</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>Nada que rehacer</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
     <message>
         <source>Move %1</source>
         <translation>Mover %1</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1 no tiene nada en sus teclas.</translation>
     </message>
 </context>
 <context>

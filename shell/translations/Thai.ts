@@ -867,6 +867,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>บันทึกการเปลี่ยนแปลงไม่ได้ และจะหายไปเมื่อปิดหน้าต่าง ต้องการปิดหรือไม่</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>ไม่มีอะไรให้เลิกทำ</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>ไม่มีอะไรให้ทำซ้ำ</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Move %1</source>
         <translation>ย้าย %1</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1 ไม่มีอะไรบนปุ่ม</translation>
     </message>
 </context>
 <context>

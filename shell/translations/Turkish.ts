@@ -867,6 +867,14 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>Değişiklikler kaydedilemiyor ve pencereyle birlikte kaybolacak. Kapatılsın mı?</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>Geri alınacak bir şey yok</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>Yinelenecek bir şey yok</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
     <message>
         <source>Move %1</source>
         <translation>%1 profilini taşı</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1 profilinin tuşlarında hiçbir şey yok.</translation>
     </message>
 </context>
 <context>

@@ -867,6 +867,14 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
         <source>The changes cannot be saved and are lost with the window. Close it?</source>
         <translation>Không thể lưu các thay đổi, chúng sẽ mất khi đóng cửa sổ. Đóng?</translation>
     </message>
+    <message>
+        <source>Nothing to undo</source>
+        <translation>Không có gì để hoàn tác</translation>
+    </message>
+    <message>
+        <source>Nothing to redo</source>
+        <translation>Không có gì để làm lại</translation>
+    </message>
 </context>
 <context>
     <name>MappingView</name>
@@ -1136,6 +1144,10 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
     <message>
         <source>Move %1</source>
         <translation>Di chuyển %1</translation>
+    </message>
+    <message>
+        <source>%1 has nothing on its keys.</source>
+        <translation>%1 không có gì trên các phím.</translation>
     </message>
 </context>
 <context>

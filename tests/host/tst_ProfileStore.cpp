@@ -134,7 +134,7 @@ void tst_ProfileStore::dirtyIsFoundByComparing()
 
 void tst_ProfileStore::macroAssignLimit()
 {
-    QCOMPARE(m_store->macroAssignLimit(), 64);
+    QCOMPARE(m_store->macroAssignLimit(), 28);
     m_store->setMacroAssignLimit(4);
     const vantrix_app_assign app = appAssign(0, 1);
     const vantrix_hotkey_assign hotKey{0, QStringLiteral("A"), QStringLiteral("B")};
@@ -521,7 +521,7 @@ void tst_ProfileStore::settings()
     reopen();
     QCOMPARE(m_store->setting(QStringLiteral("language")), QStringLiteral("3"));
     m_store->setSetting(QStringLiteral("macroAssignLimit"), QStringLiteral("many"));
-    QCOMPARE(m_store->macroAssignLimit(), 64);
+    QCOMPARE(m_store->macroAssignLimit(), 28);
 }
 
 void tst_ProfileStore::stateBytes()

@@ -39,6 +39,7 @@ private slots:
     void stepsHaveNames();
     void statusKeepsUpWithSteps();
     void historyTravels();
+    void keysOfProfilesStayInTheirList();
     void randomEditsUndone();
     void putBackShows();
     void resetIsAStep();
@@ -275,8 +276,29 @@ void tst_MainWindow::historyTravels()
     QCOMPARE(key(8)->text(), QStringLiteral("E"));
     emit m_shell->context.historyRequested(3);
     QCOMPARE(key(9)->text(), QStringLiteral("B"));
+    const int transactions = m_shell->store().transactionCount();
+    const int shown = m_window->mappingView()->showCount();
     emit m_shell->context.historyRequested(0);
     QCOMPARE(key(7)->text(), QStringLiteral("W"));
+    QCOMPARE(said(), QStringLiteral("Undone: Assign B to key 7"));
+    QCOMPARE(m_shell->store().transactionCount(), transactions + 1);
+    QCOMPARE(m_window->mappingView()->showCount(), shown + 1);
+}
+
+void tst_MainWindow::keysOfProfilesStayInTheirList()
+{
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_window->showPage(ShellPage::Macros);
+    for (const char *name : {"m_delayMode", "m_macroList", "m_eventTable"}) {
+        auto *const widget = child<QWidget>(m_window.get(), name);
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_Down, Qt::AltModifier);
+        QTest::keyClick(widget, Qt::Key_Escape);
+        QTest::keyClick(widget, Qt::Key_F2);
+        QVERIFY(!m_window->findChild<QWidget *>(QStringLiteral("m_nameEdit")));
+    }
+    QCOMPARE(m_shell->store().stepNames(), QStringList());
 }
 
 /// What the page shows of each key.

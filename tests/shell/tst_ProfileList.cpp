@@ -29,6 +29,7 @@ private slots:
     void duplicateNeedsRoom();
     void copiesOver();
     void clears();
+    void keysOfTheList();
     void moves();
     void nextGoesAround();
     void marks();
@@ -180,6 +181,22 @@ void tst_ProfileList::clears()
     QVERIFY(stored().keys(0, 0) == freshKeys());
     QCOMPARE(name(0), QStringLiteral("Games"));
     QCOMPARE(m_shell->store().undoName(), QStringLiteral("Clear Games"));
+    QSignalSpy said(&m_shell->context, &ShellContext::status);
+    clickOn(child<QToolButton>(m_list.get(), "m_clearBtn"));
+    QCOMPARE(said.count(), 1);
+    QCOMPARE(said[0][0].toString(), QStringLiteral("Games has nothing on its keys."));
+    QCOMPARE(m_shell->store().stepNames().size(), 2);
+}
+
+void tst_ProfileList::keysOfTheList()
+{
+    list()->setFocus();
+    QTest::keyClick(list(), Qt::Key_Down, Qt::AltModifier);
+    QCOMPARE(name(1), QStringLiteral("PROFILE 1"));
+    QTest::keyClick(list(), Qt::Key_Up, Qt::AltModifier);
+    QCOMPARE(name(0), QStringLiteral("PROFILE 1"));
+    QTest::keyClick(list(), Qt::Key_F2);
+    QVERIFY(list()->findChild<QLineEdit *>());
 }
 
 void tst_ProfileList::moves()
@@ -220,8 +237,9 @@ void tst_ProfileList::menuHasEverything()
     QStringList texts;
     for (const QAction *action : menu.actions())
         texts << action->text().remove(QLatin1Char('&'));
-    QCOMPARE(texts, QStringList({"Rename...", "Duplicate", "Copy Over", "Clear", "", "Move Up",
-                                 "Move Down", "", "Next Profile", "Previous Profile"}));
+    QCOMPARE(texts,
+             QStringList({"Rename...\tF2", "Duplicate", "Copy Over", "Clear", "", "Move Up\tAlt+Up",
+                          "Move Down\tAlt+Down", "", "Next Profile", "Previous Profile"}));
 }
 
 VANTRIX_TEST_MAIN(tst_ProfileList)

@@ -32,11 +32,11 @@ QString kindOf(const QJsonValue &value)
     case QJsonValue::String:
         return QLatin1Char('"') + value.toString().left(40) + QLatin1Char('"');
     case QJsonValue::Array:
-        return QStringLiteral("a list");
+        return ExchangeReader::tr("a list");
     case QJsonValue::Object:
-        return QStringLiteral("an object");
+        return ExchangeReader::tr("an object");
     default:
-        return QStringLiteral("nothing");
+        return ExchangeReader::tr("nothing");
     }
 }
 
@@ -45,7 +45,7 @@ QString lineAndColumn(const QByteArray &json, int offset)
     const QByteArray before = json.left(offset);
     const int line = before.count('\n') + 1;
     const int column = offset - before.lastIndexOf('\n');
-    return QStringLiteral("line %1, column %2").arg(line).arg(column);
+    return ExchangeReader::tr("line %1, column %2").arg(line).arg(column);
 }
 
 } // namespace

@@ -168,8 +168,9 @@ ExchangeReport ProfileExchange::put(const ExchangeContent &content, ProfileStore
 {
     const int count = int(content.profiles.size());
     const StoreStepScope step(
-        store, count == 1 ? tr("Import profile %1").arg(content.profiles[0].profile + 1)
-                          : tr("Import %1 profiles").arg(count));
+        store, count == 0   ? tr("Import macros")
+               : count == 1 ? tr("Import profile %1").arg(content.profiles[0].profile + 1)
+                            : tr("Import %1 profiles").arg(count));
     ExchangeReport report;
     std::map<QString, QString> newNames;
     for (const ExchangeContent::Macro &macro : content.macros) {
@@ -194,8 +195,15 @@ ExchangeReport ProfileExchange::put(const ExchangeContent &content, ProfileStore
         store.setProfileKeys(owner, profile.profile, keys);
         store.setProfileName(owner, profile.profile, profile.name);
     }
-    if (!content.order.empty())
+    if (!content.order.empty()) {
         store.setProfileOrder(owner, content.order);
+        int place = 0;
+        for (const ExchangeContent::Macro &macro : content.macros) {
+            const auto renamed = newNames.find(macro.name);
+            const QString name = renamed == newNames.end() ? macro.name : renamed->second;
+            store.moveMacro(owner, store.state().macroNames(owner).indexOf(name), place++);
+        }
+    }
     for (const int appType : applications) {
         if (!store.hasAppPath(appType))
             report.missingApplications << appTypeText(appType);

@@ -62,7 +62,8 @@ public:
     /// a line and column where the text is no JSON, and the path of a member otherwise.
     static std::optional<ExchangeContent> fromJson(const QByteArray &json, const QString &fileName,
                                                    QString *error);
-    /// Puts everything into the store as one step. To import a profile as another one, change its
+    /// Puts everything into the store as one step; profiles and macros get the order of a file of
+    /// all profiles. To import a profile as another one, change its
     /// number before.
     static ExchangeReport put(const ExchangeContent &content, ProfileStore &store, int owner);
 };

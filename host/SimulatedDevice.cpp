@@ -40,9 +40,9 @@ bool hasExtra(const KeyContent &key)
            key.macroName;
 }
 
-int depthOf(const DeviceKey &key)
+int depthOf(const KeyContent &key)
 {
-    return std::clamp<int>(key.content.mapping.digital.depth, MinDepth, MaxDepth);
+    return std::clamp<int>(key.mapping.digital.depth, MinDepth, MaxDepth);
 }
 
 void play(const vantrix_macro_record &sequence, std::vector<DeviceEvent> &events)
@@ -194,9 +194,10 @@ std::vector<DeviceEvent> SimulatedDevice::setKeyDepth(int keyIdx, int percent)
         goDown(motion, events);
     if (!motion.isDown)
         return events;
-    if (!motion.isPastDepth && hasSecondEdge(motion) && motion.depth >= depthOf(motion.key))
+    if (!motion.isPastDepth && hasSecondEdge(motion.key.content) &&
+        motion.depth >= depthOf(motion.key.content))
         passDepth(motion, events);
-    if (motion.isPastDepth && motion.depth <= depthOf(motion.key) - Hysteresis)
+    if (motion.isPastDepth && motion.depth <= depthOf(motion.key.content) - Hysteresis)
         returnOverDepth(motion, events);
     if (motion.depth <= ReleaseDepth)
         comeUp(motion, events);
@@ -218,11 +219,17 @@ std::vector<DeviceEvent> SimulatedDevice::releaseAll()
     return events;
 }
 
-bool SimulatedDevice::hasSecondEdge(const Motion &motion) const
+bool SimulatedDevice::hasSecondEdge(const KeyContent &key) const
 {
-    const vantrix_key_mapping &mapping = motion.key.content.mapping;
-    return !hasExtra(motion.key.content) && isDualAction(mapping) &&
-           ushort(mapping.digital.secondAction) != 0 && isPressureEnabled();
+    return !hasExtra(key) && isDualAction(key.mapping) &&
+           ushort(key.mapping.digital.secondAction) != 0 && isPressureEnabled();
+}
+
+std::vector<int> SimulatedDevice::edges(const KeyContent &key) const
+{
+    if (hasSecondEdge(key))
+        return {PressDepth, depthOf(key)};
+    return {PressDepth};
 }
 
 void SimulatedDevice::goDown(Motion &motion, Events &events)

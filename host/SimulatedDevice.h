@@ -95,6 +95,8 @@ public:
     /// device sends on the way. An index outside the pad sends nothing.
     std::vector<DeviceEvent> setKeyDepth(int keyIdx, int percent);
     int keyDepth(int keyIdx) const;
+    /// Depths in percent where a key with that content acts on its way down, ascending.
+    std::vector<int> edges(const KeyContent &key) const;
     /// Lets go of all keys.
     std::vector<DeviceEvent> releaseAll();
 
@@ -120,7 +122,7 @@ private:
     /// Lets the codes of a code go, but for those in `kept`.
     static void release(Motion &motion, ushort code, Events &events,
                         const std::vector<ushort> &kept = {});
-    bool hasSecondEdge(const Motion &motion) const;
+    bool hasSecondEdge(const KeyContent &key) const;
     bool switchProfile(ushort code, Events &events);
     int number(const char *name, int defaultValue) const;
     void setNumber(const char *name, int value);

@@ -213,21 +213,10 @@ void DeviceView::chooseKey(int keyIdx)
     const int percent = m_context.device().keyDepth(keyIdx);
     m_depth->setValue(percent);
     m_depthText->setText(tr("%1 %").arg(percent));
-    m_depth->setEdges(edgesOf(keyIdx));
+    m_depth->setEdges(isKey ? m_context.device().edges(m_keys[std::size_t(keyIdx)])
+                            : std::vector<int>{SimulatedDevice::PressDepth});
     m_keyText->setText(isKey ? m_pad->keys()[std::size_t(keyIdx)].description
                              : tr("Press a key of the pad."));
-}
-
-/// Depths at which something happens to a key, in percent.
-std::vector<int> DeviceView::edgesOf(int keyIdx) const
-{
-    std::vector<int> edges{SimulatedDevice::PressDepth};
-    if (!isValidKey(keyIdx))
-        return edges;
-    const vantrix_key_mapping &mapping = m_keys[std::size_t(keyIdx)].mapping;
-    if (isDualAction(mapping) && ushort(mapping.digital.secondAction) != 0)
-        edges.push_back(mapping.digital.depth);
-    return edges;
 }
 
 void DeviceView::setDepth(int keyIdx, int percent)

@@ -44,7 +44,6 @@ private:
     void refresh();
     void chooseProfile(int row);
     void chooseKey(int keyIdx);
-    std::vector<int> edgesOf(int keyIdx) const;
     void setDepth(int keyIdx, int percent);
     void log(int keyIdx, int percent, const std::vector<DeviceEvent> &events);
     void releaseAll();

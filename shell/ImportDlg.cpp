@@ -230,8 +230,9 @@ void ImportDlg::importChecked()
 
 void ImportDlg::report(int count, const ExchangeReport &report)
 {
-    const QString summary =
-        count == 1 ? tr("One profile was imported.") : tr("%1 profiles were imported.").arg(count);
+    const QString summary = count == 0   ? tr("The macros were imported.")
+                            : count == 1 ? tr("One profile was imported.")
+                                         : tr("%1 profiles were imported.").arg(count);
     QStringList lines{summary};
     for (const auto &[oldName, newName] : report.renamedMacros)
         lines << tr("The macro \"%1\" is named \"%2\" here, because there was another of its name.")

@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>已导入宏。</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Import %1 profiles</source>
         <translation>导入 %1 个配置文件</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>第 %1 行，第 %2 列</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>导入宏</translation>
     </message>
 </context>
 <context>

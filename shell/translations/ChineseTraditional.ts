@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>關閉</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>已匯入巨集。</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Import %1 profiles</source>
         <translation>匯入 %1 個設定檔</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>清單</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>物件</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>第 %1 行，第 %2 欄</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>匯入巨集</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>FERMER</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>Les macros ont été importées.</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
     <message>
         <source>Import %1 profiles</source>
         <translation>Importer %1 profils</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>une liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un objet</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>rien</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>ligne %1, colonne %2</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>Importer les macros</translation>
     </message>
 </context>
 <context>

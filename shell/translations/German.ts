@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>SCHLIESSEN</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>Die Makros wurden importiert.</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
     <message>
         <source>Import %1 profiles</source>
         <translation>%1 Profile importieren</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>Makros importieren</translation>
     </message>
 </context>
 <context>

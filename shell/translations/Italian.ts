@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>CHIUDI</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>Le macro sono state importate.</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
     <message>
         <source>Import %1 profiles</source>
         <translation>Importa %1 profili</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>un elenco</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un oggetto</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>niente</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>riga %1, colonna %2</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>Importa le macro</translation>
     </message>
 </context>
 <context>

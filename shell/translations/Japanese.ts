@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>マクロをインポートしました。</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Import %1 profiles</source>
         <translation>%1 個のプロファイルをインポート</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>リスト</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>オブジェクト</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>何もない値</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>%1 行 %2 列</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>マクロをインポート</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>닫기</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>매크로를 가져왔습니다.</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Import %1 profiles</source>
         <translation>프로필 %1개 가져오기</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>목록</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>객체</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>%1행 %2열</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>매크로 가져오기</translation>
     </message>
 </context>
 <context>

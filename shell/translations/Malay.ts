@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>TUTUP</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>Makro telah diimport.</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
     <message>
         <source>Import %1 profiles</source>
         <translation>Import %1 profil</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>senarai</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>objek</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>tiada apa-apa</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>baris %1, lajur %2</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>Import makro</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>FECHAR</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>As macros foram importadas.</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
     <message>
         <source>Import %1 profiles</source>
         <translation>Importar %1 perfis</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>uma lista</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>um objeto</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nada</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>linha %1, coluna %2</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>Importar macros</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>ЗАКРЫТЬ</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>Макросы импортированы.</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Import %1 profiles</source>
         <translation>Импорт профилей: %1</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>список</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>объект</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>ничего</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>строка %1, столбец %2</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>Импорт макросов</translation>
     </message>
 </context>
 <context>

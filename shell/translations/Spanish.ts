@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>CERRAR</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>Se han importado las macros.</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
     <message>
         <source>Import %1 profiles</source>
         <translation>Importar %1 perfiles</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>una lista</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un objeto</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nada</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>línea %1, columna %2</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>Importar macros</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>ปิด</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>นำเข้ามาโครแล้ว</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Import %1 profiles</source>
         <translation>นำเข้า %1 โปรไฟล์</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>รายการ</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ออบเจ็กต์</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>ไม่มีอะไร</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>บรรทัด %1 คอลัมน์ %2</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>นำเข้ามาโคร</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>KAPAT</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>Makrolar içe aktarıldı.</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
     <message>
         <source>Import %1 profiles</source>
         <translation>%1 profili içe aktar</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>bir liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>bir nesne</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>hiçbir şey</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>satır %1, sütun %2</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>Makroları içe aktar</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,10 @@
         <source>CLOSE</source>
         <translation>ĐÓNG</translation>
     </message>
+    <message>
+        <source>The macros were imported.</source>
+        <translation>Đã nhập các macro.</translation>
+    </message>
 </context>
 <context>
     <name>KeyCombo</name>
@@ -1033,6 +1037,26 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
     <message>
         <source>Import %1 profiles</source>
         <translation>Nhập %1 hồ sơ</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>một danh sách</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>một đối tượng</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>không có gì</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>dòng %1, cột %2</translation>
+    </message>
+    <message>
+        <source>Import macros</source>
+        <translation>Nhập macro</translation>
     </message>
 </context>
 <context>

@@ -250,6 +250,16 @@ void tst_DeviceView::sliderMarksTheEdges()
     m_shell->apply();
     emit pad()->currentKeyChanged(12);
     QVERIFY(slider->edges() == std::vector<int>({8, 60}));
+    m_shell->device().setPressureEnabled(false);
+    store().flush();
+    QVERIFY(slider->edges() == std::vector<int>({8}));
+    m_shell->device().setPressureEnabled(true);
+    store().flush();
+    QVERIFY(slider->edges() == std::vector<int>({8, 60}));
+    const vantrix_shortcut_assign shortcut{1, 0};
+    store().setShortcutAssign(0, 0, 12, &shortcut);
+    m_shell->apply();
+    QVERIFY(slider->edges() == std::vector<int>({8}));
 }
 
 void tst_DeviceView::dualActions_data()

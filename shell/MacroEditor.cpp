@@ -123,6 +123,10 @@ void MacroEditor::makeTable()
     m_eventTable->horizontalHeader()->setHighlightSections(false);
     auto *const keys = new WidgetKeys(m_eventTable);
     keys->on(Qt::Key_Delete, [this] { deleteEvents(); });
+    keys->on(Qt::Key_F2, [this] {
+        if (m_eventTable->currentIndex().isValid())
+            m_eventTable->edit(m_eventTable->currentIndex());
+    });
     keys->on(Qt::ALT | Qt::Key_Up, [this] { moveRow(-1); });
     keys->on(Qt::ALT | Qt::Key_Down, [this] { moveRow(1); });
     connect(m_eventTable->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -357,9 +361,10 @@ void MacroEditor::startRecording()
 
 void MacroEditor::onRecorded()
 {
-    m_recordPad->setText(tr("RECORDING: %1 events\nPress keys. To finish, press Esc twice or "
+    m_recordPad->setText(tr("RECORDING: %1 of %2 events\nPress keys. To finish, press Esc twice or "
                             "click STOP.")
-                             .arg(m_recorder->eventCount()));
+                             .arg(m_recorder->eventCount())
+                             .arg(int(vantrix_macro_record::MaxEvents)));
 }
 
 void MacroEditor::onRecordingStopped()
@@ -396,7 +401,6 @@ bool MacroEditor::recordEvent(QEvent *event)
     }
 }
 
-/// What a key does in one of the two lists; null for a key of no meaning there.
 bool MacroEditor::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_recordPad && m_recorder->isRecording())

@@ -15,6 +15,8 @@
 #include <QSignalBlocker>
 #include <QTreeWidget>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int WideEnough = 700; ///< for list and events side by side
@@ -108,6 +110,8 @@ QWidget *MacroPage::makeList()
     auto *const keys = new WidgetKeys(m_macroList);
     keys->on(Qt::Key_F2, [this] { renameMacro(); });
     keys->on(Qt::Key_Delete, [this] { deleteMacro(); });
+    keys->on(Qt::ALT | Qt::Key_Up, [this] { moveMacro(-1); });
+    keys->on(Qt::ALT | Qt::Key_Down, [this] { moveMacro(1); });
     layout->addWidget(m_macroList, 1);
 
     m_usesTitle = new QLabel(box);
@@ -126,12 +130,25 @@ QWidget *MacroPage::makeList()
 void MacroPage::refresh()
 {
     const QStringList names = m_context.store().state().macroNames(m_context.owner());
-    if (!names.contains(m_current))
-        m_current = names.value(0);
+    chooseAmong(names);
     refreshList();
     m_editor->showMacro(m_current);
     refreshUses();
     showState();
+}
+
+/// What came is chosen; in place of what went, what stands there now.
+void MacroPage::chooseAmong(const QStringList &names)
+{
+    QStringList fresh = names;
+    for (const QString &name : qAsConst(m_names))
+        fresh.removeOne(name);
+    m_names = names;
+    if (fresh.size() == 1 && isVisible() && !m_editor->isRecording())
+        m_current = fresh.first();
+    const int row = m_macroList->currentIndex().row();
+    if (!names.contains(m_current))
+        m_current = names.value(std::clamp(row, 0, std::max(0, int(names.size()) - 1)));
 }
 
 void MacroPage::onKeysChanged()
@@ -325,6 +342,15 @@ bool MacroPage::rename(const QString &name, const QString &wanted)
     m_current = wanted;
     refresh();
     return true;
+}
+
+void MacroPage::moveMacro(int by)
+{
+    ProfileStore &store = m_context.store();
+    const int from = store.state().macroNames(m_context.owner()).indexOf(m_current);
+    const StoreStepScope step(store, tr("Move macro %1").arg(m_current));
+    if (store.moveMacro(m_context.owner(), from, from + by))
+        refresh();
 }
 
 void MacroPage::deleteMacro()

@@ -3,6 +3,7 @@
 #include "shell/MacroRecorder.h"
 #include "shell/ShellContext.h"
 
+#include <QStringList>
 #include <QWidget>
 
 #include <map>
@@ -65,6 +66,8 @@ private:
     void addMacro();
     void duplicateMacro();
     void renameMacro();
+    void chooseAmong(const QStringList &names);
+    void moveMacro(int by);
     void deleteMacro();
     bool isBegunEmpty() const;
     void endForKey();
@@ -82,5 +85,6 @@ private:
     QWidget *m_uses = nullptr;
     FlowLayout *m_usesLayout = nullptr;
     QString m_current;
-    QString m_begun; ///< macro that was begun for a key
+    QStringList m_names; ///< as they were shown last
+    QString m_begun;     ///< macro that was begun for a key
 };

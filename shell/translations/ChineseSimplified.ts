@@ -523,9 +523,9 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation>宏不能包含按键“%1”。</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>正在录制：%1 个事件
+        <translation>正在录制：%1 / %2 个事件
 请按键。要结束，请按两次 Esc 或单击“停止”。</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>已删除宏 %1，并从一个按键上移除。</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>移动宏 %1</translation>
     </message>
 </context>
 <context>

@@ -523,9 +523,9 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation>巨集不能包含按鍵「%1」。</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>正在錄製：%1 個事件
+        <translation>正在錄製：%1 / %2 個事件
 請按鍵。若要結束，請按兩次 Esc 或按一下「停止」。</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>已刪除巨集 %1，並從一個按鍵移除。</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>移動巨集 %1</translation>
     </message>
 </context>
 <context>

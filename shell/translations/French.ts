@@ -523,9 +523,9 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
         <translation>« %1 » n’est pas une touche qu’une macro peut contenir.</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>ENREGISTREMENT : %1 événements
+        <translation>ENREGISTREMENT : %1 événements sur %2
 Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur ARRÊT.</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>La macro %1 a été supprimée et retirée d’une touche.</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>Déplacer la macro %1</translation>
     </message>
 </context>
 <context>

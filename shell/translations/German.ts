@@ -523,9 +523,9 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
         <translation>„%1“ ist keine Taste, die ein Makro haben kann.</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>AUFNAHME: %1 Ereignisse
+        <translation>AUFNAHME: %1 von %2 Ereignissen
 Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>Makro %1 wurde gelöscht und von einer Taste genommen.</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>Makro %1 verschieben</translation>
     </message>
 </context>
 <context>

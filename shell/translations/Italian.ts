@@ -523,9 +523,9 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
         <translation>“%1” non è un tasto che una macro può avere.</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>REGISTRAZIONE: %1 eventi
+        <translation>REGISTRAZIONE: %1 di %2 eventi
 Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>La macro %1 è stata eliminata e tolta da un tasto.</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>Sposta la macro %1</translation>
     </message>
 </context>
 <context>

@@ -523,9 +523,9 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation>「%1」はマクロに使えないキーです。</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>記録中：%1 イベント
+        <translation>記録中：%1 / %2 イベント
 キーを押してください。終了するには Esc を 2 回押すか［停止］をクリックします。</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>マクロ %1 を削除し、1 個のキーから外しました。</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>マクロ %1 を移動</translation>
     </message>
 </context>
 <context>

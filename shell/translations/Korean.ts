@@ -523,9 +523,9 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation>&quot;%1&quot;은(는) 매크로에 쓸 수 없는 키입니다.</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>기록 중: 이벤트 %1개
+        <translation>기록 중: 이벤트 %2개 중 %1개
 키를 누르십시오. 마치려면 Esc를 두 번 누르거나 정지를 클릭하십시오.</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>매크로 %1을(를) 삭제하고 키 1개에서 제거했습니다.</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>매크로 %1 이동</translation>
     </message>
 </context>
 <context>

@@ -523,9 +523,9 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
         <translation>&quot;%1&quot; bukan kekunci yang boleh ada dalam makro.</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>MERAKAM: %1 peristiwa
+        <translation>MERAKAM: %1 daripada %2 peristiwa
 Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>Makro %1 telah dipadam dan ditanggalkan daripada satu kekunci.</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>Alih makro %1</translation>
     </message>
 </context>
 <context>

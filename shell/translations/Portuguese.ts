@@ -523,9 +523,9 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
         <translation>“%1” não é uma tecla que uma macro possa ter.</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>A GRAVAR: %1 eventos
+        <translation>A GRAVAR: %1 de %2 eventos
 Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>A macro %1 foi eliminada e retirada de uma tecla.</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>Mover a macro %1</translation>
     </message>
 </context>
 <context>

@@ -523,9 +523,9 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation>«%1» не может быть клавишей макроса.</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>ЗАПИСЬ: событий %1
+        <translation>ЗАПИСЬ: событий %1 из %2
 Нажимайте клавиши. Чтобы закончить, дважды нажмите Esc или щёлкните СТОП.</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>Макрос %1 удалён и снят с одной клавиши.</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>Переместить макрос %1</translation>
     </message>
 </context>
 <context>

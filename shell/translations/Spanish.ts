@@ -523,9 +523,9 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
         <translation>«%1» no es una tecla que pueda tener una macro.</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>GRABANDO: %1 eventos
+        <translation>GRABANDO: %1 de %2 eventos
 Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>La macro %1 se ha eliminado y quitado de una tecla.</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>Mover la macro %1</translation>
     </message>
 </context>
 <context>

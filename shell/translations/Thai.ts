@@ -523,9 +523,9 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation>&quot;%1&quot; ไม่ใช่ปุ่มที่มาโครมีได้</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>กำลังบันทึก: %1 เหตุการณ์
+        <translation>กำลังบันทึก: %1 จาก %2 เหตุการณ์
 กดปุ่มต่าง ๆ หากต้องการจบ ให้กด Esc สองครั้งหรือคลิก &quot;หยุด&quot;</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>ลบมาโคร %1 และนำออกจากหนึ่งปุ่มแล้ว</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>ย้ายมาโคร %1</translation>
     </message>
 </context>
 <context>

@@ -523,9 +523,9 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
         <translation>“%1”, bir makroda olabilecek bir tuş değil.</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>KAYIT: %1 olay
+        <translation>KAYIT: %1 / %2 olay
 Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayın.</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>%1 makrosu silindi ve bir tuştan kaldırıldı.</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>%1 makrosunu taşı</translation>
     </message>
 </context>
 <context>

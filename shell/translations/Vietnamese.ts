@@ -523,9 +523,9 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
         <translation>“%1” không phải là phím mà macro có thể chứa.</translation>
     </message>
     <message>
-        <source>RECORDING: %1 events
+        <source>RECORDING: %1 of %2 events
 Press keys. To finish, press Esc twice or click STOP.</source>
-        <translation>ĐANG GHI: %1 sự kiện
+        <translation>ĐANG GHI: %1 trên %2 sự kiện
 Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp vào DỪNG.</translation>
     </message>
 </context>
@@ -700,6 +700,10 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
     <message>
         <source>Macro %1 was deleted and taken off one key.</source>
         <translation>Đã xóa macro %1 và gỡ khỏi một phím.</translation>
+    </message>
+    <message>
+        <source>Move macro %1</source>
+        <translation>Di chuyển macro %1</translation>
     </message>
 </context>
 <context>

@@ -35,6 +35,9 @@ private slots:
     void renameToNothing();
     void removeTellsThePageFirst();
     void removeChoosesTheNext();
+    void undoChoosesWhatComesBack();
+    void moveInTheList();
+    void keysOfTheEventTable();
     void removeByKeyboard();
     void recordKeys();
     void undoWhileRecording();
@@ -260,6 +263,54 @@ void tst_MacroPage::removeTellsThePageFirst()
     QCOMPARE(store().undoName(), QStringLiteral("Delete macro Save"));
     store().undo();
     QCOMPARE(*store().state().macroKey(0, 5, 8), QStringLiteral("Save"));
+}
+
+void tst_MacroPage::undoChoosesWhatComesBack()
+{
+    for (const char *const name : {"A", "B", "C"})
+        add(name, Four);
+    list()->topLevelItem(2)->setText(1, QStringLiteral("Z"));
+    store().flush();
+    QCOMPARE(m_page->currentMacro(), QStringLiteral("Z"));
+    store().undo();
+    QCOMPARE(m_page->currentMacro(), QStringLiteral("C"));
+    store().redo();
+    QCOMPARE(m_page->currentMacro(), QStringLiteral("Z"));
+    m_page->selectMacro(QStringLiteral("B"));
+    click("m_deleteBtn");
+    store().flush();
+    QCOMPARE(m_page->currentMacro(), QStringLiteral("Z"));
+    store().undo();
+    QCOMPARE(m_page->currentMacro(), QStringLiteral("B"));
+    store().redo(); // B goes again, and Z takes its place
+    QCOMPARE(m_page->currentMacro(), QStringLiteral("Z"));
+}
+
+void tst_MacroPage::moveInTheList()
+{
+    for (const char *const name : {"A", "B", "C"})
+        add(name, Four);
+    QCOMPARE(m_page->currentMacro(), QStringLiteral("C"));
+    list()->setFocus();
+    QTest::keyClick(list(), Qt::Key_Down, Qt::AltModifier);
+    QCOMPARE(names(), QStringList({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}));
+    QTest::keyClick(list(), Qt::Key_Up, Qt::AltModifier);
+    QCOMPARE(names(), QStringList({QStringLiteral("A"), QStringLiteral("C"), QStringLiteral("B")}));
+    QCOMPARE(m_page->currentMacro(), QStringLiteral("C"));
+    QCOMPARE(list()->currentIndex().row(), 1);
+    store().flush();
+    QCOMPARE(store().undoName(), QStringLiteral("Move macro C"));
+    QTest::keyClick(list(), Qt::Key_Down, Qt::AltModifier);
+    QCOMPARE(names(), QStringList({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}));
+}
+
+void tst_MacroPage::keysOfTheEventTable()
+{
+    add("Save", Four);
+    table()->setFocus();
+    table()->setCurrentIndex(table()->model()->index(1, 2));
+    QTest::keyClick(table(), Qt::Key_F2);
+    QVERIFY(table()->findChild<QSpinBox *>());
 }
 
 void tst_MacroPage::removeChoosesTheNext()

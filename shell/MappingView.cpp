@@ -174,6 +174,11 @@ void MappingView::resetDevice()
     const int profile = m_context.profile();
     const QString name = store.state().profileName(m_context.owner(), profile);
     m_context.device().reset();
+    if (store.state().keys(m_context.owner(), profile) == freshKeys()) {
+        emit m_context.status(tr("The device was reset. The profiles are kept here and can be "
+                                 "applied again."));
+        return;
+    }
     {
         const StoreStepScope step(store, tr("Reset %1").arg(name));
         store.clearProfile(m_context.owner(), profile);

@@ -15,9 +15,10 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+#include <algorithm>
+
 namespace {
 
-constexpr int MaxMacroAssigns = 4096;
 constexpr int MinWidth = 560;
 
 } // namespace
@@ -37,7 +38,7 @@ SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
     ProfileStore &store = context.store();
     m_hotKeys->setText(store.setting(HostLocations::hotKeysFolderKey()));
     m_hotKeys->setPlaceholderText(context.services().locations().hotKeysFolder(store));
-    m_macroAssigns->setRange(0, MaxMacroAssigns);
+    m_macroAssigns->setRange(0, KeyCount);
     m_macroAssigns->setValue(store.macroAssignLimit());
 
     auto *form = new QFormLayout(this);
@@ -52,6 +53,7 @@ SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
         QString path;
         store.getAppPath(type, path);
         edit->setText(path);
+        m_shownPaths[std::size_t(type)] = path;
         edit->setPlaceholderText(tr("not found"));
         m_apps[std::size_t(type)] = edit;
         form->addRow(appTypeText(type) + QLatin1Char(':'), makePathRow(edit, [this, edit] {
@@ -96,16 +98,21 @@ void SettingsDlg::accept()
     ProfileStore &store = m_context.store();
     HostLocations &locations = m_context.services().locations();
     for (int type = 0; type < AppType::Count; ++type) {
+        // one that was found meanwhile stays
         const QString path = m_apps[std::size_t(type)]->text().trimmed();
+        if (path == m_shownPaths[std::size_t(type)])
+            continue;
         store.setAppPath(type, path);
-        if (!path.isEmpty())
-            locations.setLatestAppPath(type, path);
+        locations.setLatestAppPath(type, path);
     }
     locations.install(store);
-    if (m_macroAssigns->value() != store.macroAssignLimit())
+    if (m_macroAssigns->value() != std::min(store.macroAssignLimit(), KeyCount))
         store.setMacroAssignLimit(m_macroAssigns->value());
     store.setSetting(HostLocations::hotKeysFolderKey(), m_hotKeys->text().trimmed());
-    if (m_language->currentData().toInt() != m_context.services().environment().getLanguage())
+    if (m_language->currentData().toInt() != m_context.services().environment().getLanguage()) {
+        // told also when it is stored already, and another one was asked for at the start
+        store.setSetting(Language::settingKey(), QString());
         store.setSetting(Language::settingKey(), m_language->currentData().toString());
+    }
     QDialog::accept();
 }

@@ -27,5 +27,6 @@ private:
     QComboBox *m_language;
     QLineEdit *m_hotKeys;
     std::array<QLineEdit *, AppType::Count> m_apps{};
+    std::array<QString, AppType::Count> m_shownPaths;
     QSpinBox *m_macroAssigns;
 };

@@ -45,7 +45,8 @@ bool hasDisplay()
 bool hasArgument(int argc, char **argv, const char *name)
 {
     for (int i = 1; i < argc; ++i) {
-        if (!std::strcmp(argv[i], name))
+        const std::size_t length = std::strlen(name);
+        if (!std::strncmp(argv[i], name, length) && (!argv[i][length] || argv[i][length] == '='))
             return true;
     }
     return false;
@@ -55,7 +56,12 @@ bool hasArgument(int argc, char **argv, const char *name)
 bool choosePlatform(int argc, char **argv)
 {
     bool isHeadless = hasArgument(argc, argv, "--headless");
-    if (!isHeadless && !hasDisplay()) {
+    if (!isHeadless && !hasDisplay() && !hasArgument(argc, argv, "--print-profile")) {
+        if (hasArgument(argc, argv, "--data")) {
+            // the walk assigns a key, which nobody has asked for in a folder of somebody's
+            QTextStream(stderr) << "There is no display, and --headless was not given.\n";
+            std::exit(2);
+        }
         QTextStream(stderr) << "There is no display: running headless.\n";
         isHeadless = true;
     }

@@ -906,6 +906,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>设备已重置，%1 也随之重置。撤消可恢复其按键；其他配置文件仍保留在此，可以重新应用。</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>设备已重置。配置文件仍保留在此，可以重新应用。</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

@@ -906,6 +906,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>裝置已重設，%1 也隨之重設。復原可取回其按鍵；其他設定檔仍保留在此，可以重新套用。</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>裝置已重設。設定檔仍保留在此，可以重新套用。</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

@@ -906,6 +906,10 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>L’appareil a été réinitialisé, et %1 avec lui. Annuler fait revenir ses touches ; les autres profils sont conservés ici et peuvent être appliqués à nouveau.</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>L’appareil a été réinitialisé. Les profils sont conservés ici et peuvent être appliqués à nouveau.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

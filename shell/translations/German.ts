@@ -906,6 +906,10 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>Das Gerät wurde zurückgesetzt und mit ihm %1. Rückgängig bringt seine Tasten wieder; die anderen Profile sind hier erhalten und können wieder übernommen werden.</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>Das Gerät wurde zurückgesetzt. Die Profile sind hier erhalten und können wieder übernommen werden.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

@@ -906,6 +906,10 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>Il dispositivo è stato reimpostato, e %1 con esso. Annulla riporta i suoi tasti; gli altri profili restano qui e possono essere applicati di nuovo.</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>Il dispositivo è stato reimpostato. I profili restano qui e possono essere applicati di nuovo.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

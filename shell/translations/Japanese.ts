@@ -906,6 +906,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>デバイスと %1 をリセットしました。「元に戻す」でキーが戻ります。ほかのプロファイルはここに残っており、もう一度適用できます。</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>デバイスをリセットしました。プロファイルはここに残っており、もう一度適用できます。</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

@@ -906,6 +906,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>장치와 %1을(를) 초기화했습니다. 실행 취소하면 키가 복원됩니다. 다른 프로필은 여기에 남아 있으며 다시 적용할 수 있습니다.</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>장치를 초기화했습니다. 프로필은 여기에 남아 있으며 다시 적용할 수 있습니다.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

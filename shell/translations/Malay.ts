@@ -906,6 +906,10 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>Peranti telah ditetapkan semula, bersama %1. Buat asal mengembalikan kekuncinya; profil lain disimpan di sini dan boleh digunakan semula.</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>Peranti telah ditetapkan semula. Profil disimpan di sini dan boleh digunakan semula.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

@@ -906,6 +906,10 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>O dispositivo foi reposto, e %1 com ele. Anular recupera as suas teclas; os outros perfis mantêm-se aqui e podem ser aplicados de novo.</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>O dispositivo foi reposto. Os perfis mantêm-se aqui e podem ser aplicados de novo.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

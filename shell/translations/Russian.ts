@@ -906,6 +906,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>Устройство сброшено, и %1 вместе с ним. Отмена вернёт его клавиши; другие профили сохранены здесь, и их можно применить снова.</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>Устройство сброшено. Профили сохранены здесь, и их можно применить снова.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

@@ -906,6 +906,10 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>El dispositivo se ha restablecido, y %1 con él. Deshacer recupera sus teclas; los demás perfiles se conservan aquí y pueden aplicarse de nuevo.</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>El dispositivo se ha restablecido. Los perfiles se conservan aquí y pueden aplicarse de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

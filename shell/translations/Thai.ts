@@ -906,6 +906,10 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>รีเซ็ตอุปกรณ์และ %1 แล้ว การเลิกทำจะนำปุ่มกลับมา โปรไฟล์อื่นยังเก็บไว้ที่นี่และใช้ได้อีกครั้ง</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>รีเซ็ตอุปกรณ์แล้ว โปรไฟล์ยังเก็บไว้ที่นี่และใช้ได้อีกครั้ง</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

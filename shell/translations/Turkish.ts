@@ -906,6 +906,10 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>Cihaz ve onunla birlikte %1 sıfırlandı. Geri al, tuşlarını geri getirir; diğer profiller burada saklanır ve yeniden uygulanabilir.</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>Cihaz sıfırlandı. Profiller burada saklanır ve yeniden uygulanabilir.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

@@ -906,6 +906,10 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
         <source>The device was reset, and %1 with it. Undo brings its keys back; the other profiles are kept here and can be applied again.</source>
         <translation>Đã đặt lại thiết bị và cả %1. Hoàn tác sẽ đưa các phím của nó trở lại; các hồ sơ khác vẫn được giữ ở đây và có thể áp dụng lại.</translation>
     </message>
+    <message>
+        <source>The device was reset. The profiles are kept here and can be applied again.</source>
+        <translation>Đã đặt lại thiết bị. Các hồ sơ vẫn được giữ ở đây và có thể áp dụng lại.</translation>
+    </message>
 </context>
 <context>
     <name>MessageBar</name>

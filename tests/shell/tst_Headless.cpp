@@ -20,6 +20,7 @@ private slots:
     void printsStoreAndDevice();
     void program();
     void programWithoutDisplay();
+    void programWithoutDisplayOnData();
     void programKeepsItsDataFolder();
     void brokenStore_data();
     void brokenStore();
@@ -121,6 +122,20 @@ void tst_Headless::programWithoutDisplay()
     QCOMPARE(exitCode, 0);
     QVERIFY(errors.contains("There is no display: running headless."));
     QCOMPARE(text.count('\n'), 30);
+}
+
+/// A folder of somebody's gets a key only when --headless asks for it.
+void tst_Headless::programWithoutDisplayOnData()
+{
+    const QTemporaryDir folder;
+    for (const QString &data : {QStringLiteral("--data=%1"), QStringLiteral("--data %1")}) {
+        int exitCode = -1;
+        QByteArray errors;
+        QCOMPARE(run(data.arg(folder.path()).split(' '), &errors, &exitCode, false), QByteArray());
+        QCOMPARE(exitCode, 2);
+        QCOMPARE(errors, QByteArray("There is no display, and --headless was not given.\n"));
+    }
+    QVERIFY(QDir(folder.path()).isEmpty());
 }
 
 void tst_Headless::programKeepsItsDataFolder()

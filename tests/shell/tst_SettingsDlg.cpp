@@ -20,6 +20,9 @@ private slots:
     void acceptStores();
     void cancelStoresNothing();
     void pathsAreFoundAgain();
+    void clearedPathsStayCleared();
+    void whatIsFoundMeanwhileStays();
+    void storedLanguageIsTakenToo();
     void browseFillsThePath_data();
     void browseFillsThePath();
 };
@@ -67,6 +70,7 @@ void tst_SettingsDlg::cancelStoresNothing()
     child<QSpinBox>(&dialog, "m_macroAssigns")->setValue(5);
     child<QLineEdit>(&dialog, "m_app2")->setText(QStringLiteral("/opt/ai"));
     dialog.reject();
+    shell.store().flush();
     QVERIFY(shell.store().state().toBytes() == before);
 }
 
@@ -78,6 +82,47 @@ void tst_SettingsDlg::pathsAreFoundAgain()
     dialog.accept();
     QCOMPARE(shell.services.locations().latestAppPaths(),
              QStringList({QStringLiteral("/opt/ps"), QString(), QString()}));
+}
+
+void tst_SettingsDlg::clearedPathsStayCleared()
+{
+    ShellFixture shell;
+    shell.store().setAppPath(0, QStringLiteral("/opt/ps"));
+    shell.services.locations().setLatestAppPath(0, QStringLiteral("/opt/ps"));
+    SettingsDlg dialog(shell.context);
+    child<QLineEdit>(&dialog, "m_app0")->clear();
+    dialog.accept();
+    QVERIFY(!shell.store().hasAppPath(0));
+    QCOMPARE(shell.services.locations().latestAppPaths(),
+             QStringList({QString(), QString(), QString()}));
+}
+
+void tst_SettingsDlg::whatIsFoundMeanwhileStays()
+{
+    ShellFixture shell;
+    SettingsDlg dialog(shell.context);
+    shell.store().setAppPath(0, QStringLiteral("/opt/ps"));
+    dialog.accept();
+    QString path;
+    shell.store().getAppPath(0, path);
+    QCOMPARE(path, QStringLiteral("/opt/ps"));
+}
+
+/// Started in another language than the one that is stored.
+void tst_SettingsDlg::storedLanguageIsTakenToo()
+{
+    ShellFixture shell;
+    shell.store().setSetting(QStringLiteral("language"), QStringLiteral("2"));
+    shell.services.environment().setLanguage(4);
+    shell.store().flush();
+    QSignalSpy changed(&shell.store(), &ProfileStore::settingChanged);
+    SettingsDlg dialog(shell.context);
+    auto *const language = child<QComboBox>(&dialog, "m_language");
+    language->setCurrentIndex(language->findData(2));
+    dialog.accept();
+    shell.store().flush();
+    QVERIFY(changed.contains({QStringLiteral("language")}));
+    QCOMPARE(shell.store().setting(QStringLiteral("language")), QStringLiteral("2"));
 }
 
 void tst_SettingsDlg::browseFillsThePath_data()

@@ -132,6 +132,7 @@ StoreError StoreFile::open(const QString &name, Access access)
     m_name = name;
     m_fileId = fileId(name);
     m_isWhole = true;
+    m_companionIds.clear();
     const QString timeout = QStringLiteral("QSQLITE_BUSY_TIMEOUT=200");
     const QString reading = QStringLiteral("QSQLITE_OPEN_READONLY;") + timeout;
     if (access == ReadOnlyAccess) {
@@ -198,6 +199,22 @@ bool StoreFile::isInPlace() const
     return m_fileId != 0 && fileId(m_name) == m_fileId;
 }
 
+/// They come with the first transaction.
+void StoreFile::noteCompanions()
+{
+    for (const QString &companion : companions())
+        m_companionIds.insert(fileId(m_name + companion));
+}
+
+void StoreFile::removeLeftovers()
+{
+    for (const QString &companion : companions()) {
+        const quint64 id = fileId(m_name + companion);
+        if (id != 0 && m_companionIds.count(id) > 0)
+            QFile::remove(m_name + companion);
+    }
+}
+
 StoreError StoreFile::execute(QSqlQuery &query) const
 {
     if (query.exec()) {
@@ -233,6 +250,8 @@ StoreError StoreFile::begin()
     if (!query.exec(QStringLiteral("BEGIN IMMEDIATE")))
         return errorOf(query.lastError());
     query.finish();
+    if (isInPlace())
+        noteCompanions();
     if (prepare())
         return StoreError::None;
     return end(StoreError::Damaged);

@@ -55,6 +55,9 @@ public:
     bool isWhole() const { return m_isWhole; }
     /// True while the file of that name still is the one that was opened.
     bool isInPlace() const;
+    /// Takes away what SQLite keeps beside a file, once closed, where it still is of the file that
+    /// was open and not of another that has taken its place.
+    void removeLeftovers();
 
     /// Whether it can be written at all; writes nothing.
     StoreError probe();
@@ -89,6 +92,7 @@ private:
     bool prepare();
     StoreError execute(QSqlQuery &query) const;
     StoreError begin();
+    void noteCompanions();
     StoreError end(StoreError error);
     StoreError write(const StoreState &state, const StoreHistory &history,
                      const std::set<RecordId> &changed);
@@ -102,6 +106,7 @@ private:
     QSqlDatabase m_db;
     QString m_name;
     quint64 m_fileId = 0;
+    std::set<quint64> m_companionIds;
     bool m_isWhole = true;
     std::unique_ptr<Statements> m_statements;
 };

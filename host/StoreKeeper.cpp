@@ -284,6 +284,7 @@ bool StoreKeeper::checkPlace()
     if (m_file.isInPlace())
         return true;
     m_file.close();
+    m_file.removeLeftovers();
     m_access = InMemory;
     return writeAnew();
 }

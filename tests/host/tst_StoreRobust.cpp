@@ -44,6 +44,7 @@ private slots:
     void fullDisk();
     void removedWhileRunning();
     void replacedWhileRunning();
+    void replacedByAnotherStore();
     void folderRemovedWhileRunning();
     void folderReplacedWhileRunning();
     void unsavedWork_data();
@@ -628,6 +629,33 @@ void tst_StoreRobust::replacedWhileRunning()
                  "The store my.store was replaced by another file while the program was running. "
                  "That file was kept as my.store.replaced-1, and the store was written again.")));
     QCOMPARE(read(file() + QStringLiteral(".replaced-1")), QByteArray("other"));
+    const ProfileStore reader(file());
+    QVERIFY(reader.state() == store.state());
+}
+
+/// As by somebody who brings back a copy while the program runs.
+void tst_StoreRobust::replacedByAnotherStore()
+{
+    const QString other = m_folder->filePath(QStringLiteral("other"));
+    {
+        ProfileStore store(other);
+        assign(store, 1, 9);
+        assign(store, 2, 8);
+    }
+    QVERIFY(QFile::remove(other + QStringLiteral(".bak")));
+    makeStore();
+    ProfileStore store(file());
+    assign(store, 3, 6);
+    QVERIFY(store.flush());
+    QVERIFY(QFile::exists(file() + QStringLiteral("-wal")));
+    QVERIFY(QFile::remove(file()));
+    QVERIFY(QFile::rename(other, file()));
+    assign(store, 2, 5);
+    QVERIFY(store.flush());
+    const ProfileStore kept(file() + QStringLiteral(".replaced-1"));
+    QCOMPARE(codeOf(kept, 1), 9);
+    QCOMPARE(codeOf(kept, 2), 8);
+    QCOMPARE(codeOf(kept, 3), 255);
     const ProfileStore reader(file());
     QVERIFY(reader.state() == store.state());
 }

@@ -95,6 +95,19 @@ QJsonObject jsonOf(const ExchangeContent::Profile &profile)
     return object;
 }
 
+/// The name of a macro in a store: its own, or one like it when another macro has that. What an
+/// earlier import of the same macro was named is taken again.
+QString nameFor(const ExchangeContent::Macro &macro, const ProfileStore &store, int owner)
+{
+    QString name = macro.name;
+    for (int number = 2;; ++number) {
+        const auto record = store.state().macro(owner, name);
+        if (!record || record == macro.record)
+            return name;
+        name = QStringLiteral("%1 %2").arg(macro.name).arg(number);
+    }
+}
+
 /// Names of the macros that keys of these profiles hold.
 std::set<QString> macrosOn(const std::vector<ExchangeContent::Profile> &profiles)
 {
@@ -174,10 +187,8 @@ ExchangeReport ProfileExchange::put(const ExchangeContent &content, ProfileStore
     ExchangeReport report;
     std::map<QString, QString> newNames;
     for (const ExchangeContent::Macro &macro : content.macros) {
-        if (store.state().macro(owner, macro.name) == macro.record)
-            continue;
-        const QString name = store.freeMacroName(owner, macro.name);
-        store.addMacro(owner, name, macro.record);
+        const QString name = nameFor(macro, store, owner);
+        store.addMacro(owner, name, macro.record); // unless it is there
         if (name != macro.name) {
             newNames[macro.name] = name;
             report.renamedMacros.emplace_back(macro.name, name);

@@ -132,7 +132,8 @@ ProfileKeys StoreState::keys(int owner, int profile) const
 
 QString StoreState::profileName(int owner, int profile) const
 {
-    QString name = text(profileRecord(StoreTable::ProfileName, owner, profile));
+    // a file can bring line breaks, which no list has room for
+    const QString name = text(profileRecord(StoreTable::ProfileName, owner, profile)).simplified();
     if (!name.isEmpty())
         return name;
     return QCoreApplication::translate("ProfileStore", "PROFILE %1").arg(profile + 1);

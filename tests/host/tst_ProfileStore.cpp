@@ -396,6 +396,8 @@ void tst_ProfileStore::profileNames()
     QCOMPARE(changed.count(), 1);
     reopen();
     QCOMPARE(m_store->state().profileName(Owner, 1), QStringLiteral("Video work"));
+    m_store->setProfileName(Owner, 2, QStringLiteral("Two\nlines\tand more"));
+    QCOMPARE(m_store->state().profileName(Owner, 2), QStringLiteral("Two lines and more"));
     m_store->setProfileName(Owner, 1, QStringLiteral("  "));
     QCOMPARE(m_store->state().profileName(Owner, 1), QStringLiteral("PROFILE 2"));
 }

@@ -8,6 +8,7 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -25,7 +26,8 @@ constexpr int MinWidth = 560;
 
 SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
     : QDialog(parent), m_context(context), m_language(new QComboBox(this)),
-      m_hotKeys(new QLineEdit(this)), m_macroAssigns(new QSpinBox(this))
+      m_hotKeys(new QLineEdit(this)), m_macroAssigns(new QSpinBox(this)),
+      m_message(new QLabel(this))
 {
     setWindowTitle(tr("Settings"));
     setObjectName(QStringLiteral("SettingsDlg"));
@@ -44,9 +46,10 @@ SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
     auto *form = new QFormLayout(this);
     form->setContentsMargins(16, 16, 16, 16);
     form->addRow(tr("&Language:"), m_language);
-    form->addRow(tr("&Hot-key catalog:"), makePathRow(m_hotKeys, [this] {
-                     return Modal::openFolder(this, tr("Hot-key catalog"), m_hotKeys->text());
-                 }));
+    m_stops << m_language;
+    addPathRow(form, tr("&Hot-key catalog:"), m_hotKeys, [this] {
+        return Modal::openFolder(this, tr("Hot-key catalog"), m_hotKeys->text());
+    });
     for (int type = 0; type < AppType::Count; ++type) {
         auto *edit = new QLineEdit(this);
         edit->setObjectName(QStringLiteral("m_app%1").arg(type));
@@ -56,14 +59,24 @@ SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
         m_shownPaths[std::size_t(type)] = path;
         edit->setPlaceholderText(tr("not found"));
         m_apps[std::size_t(type)] = edit;
-        form->addRow(appTypeText(type) + QLatin1Char(':'), makePathRow(edit, [this, edit] {
-                         return Modal::openFileName(this, tr("Program"), edit->text(), QString());
-                     }));
+        addPathRow(form, appTypeText(type) + QLatin1Char(':'), edit, [this, edit] {
+            return Modal::openFileName(this, tr("Program"), edit->text(), QString());
+        });
     }
     form->addRow(tr("Keys with &macros in a profile:"), m_macroAssigns);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Cancel)->setText(tr("CANCEL"));
+    m_message->setObjectName(QStringLiteral("m_settingsMessage"));
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setWordWrap(true);
+    m_message->setStyleSheet(QStringLiteral("color:%1;").arg(ShellStyle::warning().name()));
+    m_message->hide();
+    form->addRow(m_message);
     form->addRow(buttons);
+    m_stops << m_macroAssigns << buttons->button(QDialogButtonBox::Ok)
+            << buttons->button(QDialogButtonBox::Cancel);
+    for (int i = 1; i < m_stops.size(); ++i)
+        setTabOrder(m_stops[i - 1], m_stops[i]);
     connect(buttons, &QDialogButtonBox::accepted, this, &SettingsDlg::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &SettingsDlg::reject);
 }
@@ -76,7 +89,8 @@ void SettingsDlg::fillLanguages()
     m_language->setCurrentIndex(m_language->findData(language));
 }
 
-QWidget *SettingsDlg::makePathRow(QLineEdit *edit, const std::function<QString()> &browse)
+void SettingsDlg::addPathRow(QFormLayout *form, const QString &title, QLineEdit *edit,
+                             const std::function<QString()> &browse)
 {
     auto *row = new QWidget(this);
     auto *button = new QPushButton(tr("BROWSE"), row);
@@ -84,19 +98,39 @@ QWidget *SettingsDlg::makePathRow(QLineEdit *edit, const std::function<QString()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(edit, 1);
     layout->addWidget(button);
-    row->setFocusProxy(edit);
+    form->addRow(title, row);
+    qobject_cast<QLabel *>(form->labelForField(row))->setBuddy(edit);
+    m_stops << edit << button;
     connect(button, &QPushButton::clicked, edit, [edit, browse] {
         const QString path = browse();
         if (!path.isEmpty())
             edit->setText(path);
     });
-    return row;
+}
+
+/// Says what is wrong with a path that was edited, and goes there; true when nothing is.
+bool SettingsDlg::checkPath(QLineEdit *edit, const QString &shown, bool isFolder)
+{
+    const QString path = edit->text().trimmed();
+    const QFileInfo info(path);
+    if (path.isEmpty() || path == shown || (isFolder ? info.isDir() : info.exists()))
+        return true;
+    m_message->setText(
+        (isFolder ? tr("There is no folder %1.") : tr("There is no program %1.")).arg(path));
+    m_message->show();
+    edit->setFocus();
+    return false;
 }
 
 void SettingsDlg::accept()
 {
     ProfileStore &store = m_context.store();
     HostLocations &locations = m_context.services().locations();
+    bool isRight = checkPath(m_hotKeys, store.setting(HostLocations::hotKeysFolderKey()), true);
+    for (std::size_t type = 0; type < m_apps.size(); ++type)
+        isRight = isRight && checkPath(m_apps[type], m_shownPaths[type], false);
+    if (!isRight)
+        return;
     for (int type = 0; type < AppType::Count; ++type) {
         // one that was found meanwhile stays
         const QString path = m_apps[std::size_t(type)]->text().trimmed();

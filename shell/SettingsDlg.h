@@ -5,6 +5,8 @@
 #include <QDialog>
 
 class QComboBox;
+class QFormLayout;
+class QLabel;
 class QLineEdit;
 class QSpinBox;
 
@@ -21,7 +23,9 @@ public:
 
 private:
     void fillLanguages();
-    QWidget *makePathRow(QLineEdit *edit, const std::function<QString()> &browse);
+    void addPathRow(QFormLayout *form, const QString &title, QLineEdit *edit,
+                    const std::function<QString()> &browse);
+    bool checkPath(QLineEdit *edit, const QString &shown, bool isFolder);
 
     ShellContext &m_context;
     QComboBox *m_language;
@@ -29,4 +33,6 @@ private:
     std::array<QLineEdit *, AppType::Count> m_apps{};
     std::array<QString, AppType::Count> m_shownPaths;
     QSpinBox *m_macroAssigns;
+    QLabel *m_message;
+    QList<QWidget *> m_stops; ///< of the Tab key, in order
 };

@@ -1231,6 +1231,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>CANCEL</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>文件夹 %1 不存在。</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>程序 %1 不存在。</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -1231,6 +1231,14 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
         <source>CANCEL</source>
         <translation>ANNULER</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>Il n’y a pas de dossier %1.</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>Il n’y a pas de programme %1.</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -1231,6 +1231,14 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
         <source>CANCEL</source>
         <translation>ABBRECHEN</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>Es gibt keinen Ordner %1.</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>Es gibt kein Programm %1.</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

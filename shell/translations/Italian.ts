@@ -1231,6 +1231,14 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
         <source>CANCEL</source>
         <translation>ANNULLA</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>La cartella %1 non esiste.</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>Il programma %1 non esiste.</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -1231,6 +1231,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>CANCEL</source>
         <translation>キャンセル</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>フォルダー %1 はありません。</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>プログラム %1 はありません。</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

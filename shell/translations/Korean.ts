@@ -1231,6 +1231,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>CANCEL</source>
         <translation>취소</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>폴더 %1이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>프로그램 %1이(가) 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

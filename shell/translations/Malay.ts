@@ -1231,6 +1231,14 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
         <source>CANCEL</source>
         <translation>BATAL</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>Tiada folder %1.</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>Tiada program %1.</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -1231,6 +1231,14 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
         <source>CANCEL</source>
         <translation>CANCELAR</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>Não existe a pasta %1.</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>Não existe o programa %1.</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

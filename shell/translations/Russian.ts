@@ -1231,6 +1231,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>CANCEL</source>
         <translation>ОТМЕНА</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>Папки %1 нет.</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>Программы %1 нет.</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -1231,6 +1231,14 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
         <source>CANCEL</source>
         <translation>CANCELAR</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>No existe la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>No existe el programa %1.</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -1231,6 +1231,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <source>CANCEL</source>
         <translation>ยกเลิก</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>ไม่มีโฟลเดอร์ %1</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>ไม่มีโปรแกรม %1</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -1231,6 +1231,14 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
         <source>CANCEL</source>
         <translation>İPTAL</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>%1 klasörü yok.</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>%1 programı yok.</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

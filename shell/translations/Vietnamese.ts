@@ -1231,6 +1231,14 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
         <source>CANCEL</source>
         <translation>HỦY</translation>
     </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>Không có thư mục %1.</translation>
+    </message>
+    <message>
+        <source>There is no program %1.</source>
+        <translation>Không có chương trình %1.</translation>
+    </message>
 </context>
 <context>
     <name>ShellPages</name>

@@ -6,9 +6,13 @@
 #include "support/TestMain.h"
 
 #include <QComboBox>
+#include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
+
+#include <algorithm>
 
 class tst_SettingsDlg : public QObject
 {
@@ -23,6 +27,8 @@ private slots:
     void clearedPathsStayCleared();
     void whatIsFoundMeanwhileStays();
     void storedLanguageIsTakenToo();
+    void wrongPathsAreTold();
+    void tabGoesFromTopToBottom();
     void browseFillsThePath_data();
     void browseFillsThePath();
 };
@@ -45,11 +51,13 @@ void tst_SettingsDlg::showsWhatIsStored()
 void tst_SettingsDlg::acceptStores()
 {
     ShellFixture shell;
+    const QString program = shell.folder.filePath(QStringLiteral("ai"));
+    QVERIFY(QFile(program).open(QIODevice::WriteOnly));
     SettingsDlg dialog(shell.context);
     auto *const language = child<QComboBox>(&dialog, "m_language");
     language->setCurrentIndex(language->findData(7));
     child<QLineEdit>(&dialog, "m_hotKeys")->setText(shell.folder.path());
-    child<QLineEdit>(&dialog, "m_app2")->setText(QStringLiteral("/opt/ai"));
+    child<QLineEdit>(&dialog, "m_app2")->setText(program);
     child<QSpinBox>(&dialog, "m_macroAssigns")->setValue(5);
     dialog.accept();
     shell.store().flush();
@@ -57,7 +65,7 @@ void tst_SettingsDlg::acceptStores()
     QCOMPARE(shell.services.locations().hotKeysFolder(shell.store()), shell.folder.path());
     QString path;
     shell.store().getAppPath(2, path);
-    QCOMPARE(path, QStringLiteral("/opt/ai"));
+    QCOMPARE(path, program);
     QCOMPARE(shell.store().macroAssignLimit(), 5);
     QVERIFY(!shell.store().canUndo());
 }
@@ -77,11 +85,13 @@ void tst_SettingsDlg::cancelStoresNothing()
 void tst_SettingsDlg::pathsAreFoundAgain()
 {
     ShellFixture shell;
+    const QString program = shell.folder.filePath(QStringLiteral("ps"));
+    QVERIFY(QFile(program).open(QIODevice::WriteOnly));
     SettingsDlg dialog(shell.context);
-    child<QLineEdit>(&dialog, "m_app0")->setText(QStringLiteral("/opt/ps"));
+    child<QLineEdit>(&dialog, "m_app0")->setText(program);
     dialog.accept();
     QCOMPARE(shell.services.locations().latestAppPaths(),
-             QStringList({QStringLiteral("/opt/ps"), QString(), QString()}));
+             QStringList({program, QString(), QString()}));
 }
 
 void tst_SettingsDlg::clearedPathsStayCleared()
@@ -123,6 +133,49 @@ void tst_SettingsDlg::storedLanguageIsTakenToo()
     shell.store().flush();
     QVERIFY(changed.contains({QStringLiteral("language")}));
     QCOMPARE(shell.store().setting(QStringLiteral("language")), QStringLiteral("2"));
+}
+
+/// What is wrong keeps the dialog open; what was wrong before does not.
+void tst_SettingsDlg::wrongPathsAreTold()
+{
+    ShellFixture shell;
+    shell.store().setAppPath(1, QStringLiteral("/gone"));
+    SettingsDlg dialog(shell.context);
+    auto *const message = child<QLabel>(&dialog, "m_settingsMessage");
+    QVERIFY(message->isHidden());
+    child<QLineEdit>(&dialog, "m_hotKeys")->setText(QStringLiteral("/no/folder"));
+    child<QLineEdit>(&dialog, "m_app2")->setText(QStringLiteral("/no/program"));
+    dialog.accept();
+    QCOMPARE(dialog.result(), int(QDialog::Rejected));
+    QCOMPARE(message->text(), QStringLiteral("There is no folder /no/folder."));
+    child<QLineEdit>(&dialog, "m_hotKeys")->clear();
+    dialog.accept();
+    QCOMPARE(message->text(), QStringLiteral("There is no program /no/program."));
+    QVERIFY(!shell.store().hasAppPath(2));
+    child<QLineEdit>(&dialog, "m_app2")->clear();
+    dialog.accept();
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QVERIFY(shell.store().hasAppPath(1));
+}
+
+void tst_SettingsDlg::tabGoesFromTopToBottom()
+{
+    ShellFixture shell;
+    SettingsDlg dialog(shell.context);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    child<QComboBox>(&dialog, "m_language")->setFocus();
+    std::vector<QWidget *> stops;
+    int height = -1;
+    while (std::find(stops.begin(), stops.end(), dialog.focusWidget()) == stops.end()) {
+        stops.push_back(dialog.focusWidget());
+        const int top = stops.back()->mapTo(&dialog, stops.back()->rect().center()).y();
+        QVERIFY2(top + 4 >= height, qPrintable(stops.back()->objectName()));
+        height = top;
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    }
+    // language, four paths with their buttons, the number, OK and CANCEL
+    QCOMPARE(int(stops.size()), 12);
 }
 
 void tst_SettingsDlg::browseFillsThePath_data()

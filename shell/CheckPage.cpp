@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 
 namespace {
@@ -117,6 +118,14 @@ void CheckPage::refresh()
     const ProfileCheck check(m_context.store(), m_context.owner());
     const bool all = m_scope->checkedId() == AllProfiles;
     const auto findings = all ? check.checkAll() : check.check(m_context.profile());
+    const StoreState &state = m_context.store().state();
+    QStringList names;
+    for (int profile = 0; profile < ProfileCount; ++profile)
+        names << state.profileName(m_context.owner(), profile);
+    const Shown shown{all, findings, names};
+    if (shown == m_shown)
+        return; // where one was in the list, one stays
+    m_shown = shown;
     const int count = int(findings.size());
     QString text = countText(count);
     if (count > ListLimit)
@@ -136,9 +145,11 @@ void CheckPage::refresh()
     }
     layout->addStretch();
     // the click on a chip may have led here: the old rows go when it is over
+    const int place = m_area->verticalScrollBar()->value();
     if (QWidget *const old = m_area->takeWidget())
         old->deleteLater();
     m_area->setWidget(content);
+    QTimer::singleShot(0, content, [this, place] { m_area->verticalScrollBar()->setValue(place); });
 }
 
 QLabel *CheckPage::makeHeading(int profile, QWidget *parent) const
@@ -180,7 +191,9 @@ QPushButton *CheckPage::makeChip(const CheckFinding &finding, const KeyPlace &pl
         text = QStringLiteral("%1 \u00B7 %2").arg(name, text);
     auto *const chip = new QPushButton(Common::ButtonText(text), parent);
     chip->setToolTip(tr("Go there"));
-    connect(chip, &QPushButton::clicked, this,
-            [this, place] { emit m_context.goTo(place.profile, place.keyIdx); });
+    connect(chip, &QPushButton::clicked, this, [this, place] {
+        emit m_context.goTo(place.profile, place.keyIdx);
+        emit m_context.keysWanted();
+    });
     return chip;
 }

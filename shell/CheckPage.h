@@ -3,6 +3,7 @@
 #include "shell/ProfileCheck.h"
 #include "shell/ShellContext.h"
 
+#include <QStringList>
 #include <QWidget>
 
 class QButtonGroup;
@@ -30,6 +31,19 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    /// What the rows were made from.
+    struct Shown
+    {
+        bool isAll = false;
+        std::vector<CheckFinding> findings;
+        QStringList names;
+
+        bool operator==(const Shown &other) const
+        {
+            return isAll == other.isAll && findings == other.findings && names == other.names;
+        }
+    };
+
     void later();
     void refresh();
     void sayCount();
@@ -42,5 +56,6 @@ private:
     QButtonGroup *m_scope;
     QLabel *m_summary;
     QScrollArea *m_area;
+    Shown m_shown;
     bool m_isStale = true;
 };

@@ -113,6 +113,8 @@ bool ImportDlg::openFile(const QString &fileName)
         m_isRead = true;
     }
     fill();
+    m_list->setEnabled(true);
+    m_cancelBtn->setText(tr("CANCEL"));
     if (m_isRead)
         m_list->setFocus(); // Enter imports from there
     say(error, true);

@@ -248,7 +248,14 @@ void MainWindow::connectContext()
     ProfileStore &store = m_context.store();
     connect(&m_context, &ShellContext::goTo, this, [this](int profile, int key) {
         m_mapping->goTo(profile, key);
-        if (key < KeyCount && !m_mapping->isVisible())
+        if (key < KeyCount)
+            emit m_context.keysWanted();
+    });
+    connect(&m_context, &ShellContext::profileShown, this, [this](int profile) {
+        m_context.store().setSetting(profileKey(), QString::number(profile));
+    });
+    connect(&m_context, &ShellContext::keysWanted, this, [this] {
+        if (!m_mapping->isVisible())
             showPage(ShellPage::Mapping);
     });
     connect(&m_context, &ShellContext::pageRequested, this, &MainWindow::showPage);
@@ -503,7 +510,6 @@ void MainWindow::remember()
 {
     ProfileStore &store = m_context.store();
     store.setSetting(geometryKey(), QString::fromLatin1(saveGeometry().toBase64()));
-    store.setSetting(profileKey(), QString::number(m_context.profile()));
     store.flush();
 }
 
@@ -513,7 +519,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
     if (m_context.store().hasUnsavedWork() &&
         !Modal::question(this, windowTitle(),
                          tr("The changes cannot be saved and are lost with the window. Close "
-                            "it?"))) {
+                            "it?"),
+                         Modal::No)) {
         event->ignore();
         return;
     }

@@ -29,8 +29,7 @@ MessageBar::MessageBar(QWidget *parent) : QWidget(parent), m_text(new QLabel(thi
 
 void MessageBar::add(const QString &text)
 {
-    if (m_messages.contains(text))
-        return;
+    m_messages.removeAll(text); // what is said again is the news
     m_messages << text;
     m_text->setText(m_messages.join(QLatin1Char('\n')));
     show();

@@ -35,6 +35,10 @@ struct CheckFinding
     QString text;    ///< in words, without the profile's name
     std::vector<KeyPlace> places;
 };
+inline bool operator==(const CheckFinding &a, const CheckFinding &b)
+{
+    return a.kind == b.kind && a.profile == b.profile && a.text == b.text && a.places == b.places;
+}
 
 /// The rules by which profiles are checked. They find what is worth a look and forbid nothing.
 /// Interface thread only.

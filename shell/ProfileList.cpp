@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -127,6 +128,7 @@ void ProfileList::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     m_list->doItemsLayout();
+    m_list->scrollToItem(m_list->currentItem());
 }
 
 QToolButton *ProfileList::addButton(const QString &text, const QString &tip, const char *name)
@@ -243,9 +245,19 @@ void ProfileList::onEdited(QListWidgetItem *item)
 
 void ProfileList::rename()
 {
-    if (m_isCompact)
+    const bool isWidening = m_isCompact;
+    if (isWidening)
         emit namesNeeded();
     m_list->setFocus();
+    if (isWidening) // there is room for the name once the window is laid out anew
+        QTimer::singleShot(0, this, &ProfileList::editName);
+    else
+        editName();
+}
+
+void ProfileList::editName()
+{
+    m_list->scrollToItem(m_list->currentItem());
     m_list->editItem(m_list->currentItem());
 }
 

@@ -56,6 +56,7 @@ private:
     void connectAll();
     void onRowChanged(int row);
     void onEdited(QListWidgetItem *item);
+    void editName();
     void move(int step);
     void duplicateTo(int profile);
     void fillTargets(QMenu *menu);

@@ -47,6 +47,8 @@ signals:
     /// Show that profile and select that key; `key` 28 or more selects none.
     void goTo(int profile, int key);
     void pageRequested(ShellPage page);
+    /// Bring the keys into view, in place of another page where there is no room for both.
+    void keysWanted();
     /// Make a new macro: the macro page opens and begins one.
     void newMacroRequested();
     /// Send the shown profile to the device.

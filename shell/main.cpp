@@ -183,8 +183,8 @@ int runHeadless(Options options)
     return Headless::walk(services, {profile, options.screenshot}, out, err);
 }
 
-/// Shows the window until it is closed, or until it is to be made anew.
-int showWindow(ShellContext &context, int profile)
+/// Shows the window until it is closed, or until it is to be made anew with the page it leaves.
+int showWindow(ShellContext &context, int profile, ShellPage *page)
 {
     MainWindow window(context);
     QObject::connect(
@@ -192,8 +192,10 @@ int showWindow(ShellContext &context, int profile)
         Qt::QueuedConnection);
     if (profile >= 0)
         emit context.goTo(profile, NoKey);
+    window.showPage(*page);
     window.show();
     const int code = QApplication::exec();
+    *page = window.shownPage();
     if (code == AgainCode)
         window.remember();
     return code;
@@ -205,9 +207,10 @@ int runWindow(const Options &options)
     HostServices services(options.dataFolder);
     setLanguage(services, options);
     ShellContext context(services);
-    int code = showWindow(context, options.profile);
+    ShellPage page = ShellPage::Mapping;
+    int code = showWindow(context, options.profile, &page);
     while (code == AgainCode)
-        code = showWindow(context, -1);
+        code = showWindow(context, -1, &page);
     return code;
 }
 

@@ -46,8 +46,11 @@ public:
     static int exec(QDialog *dialog);
     /// Shows a box with one button.
     static void warning(QWidget *parent, const QString &title, const QString &text);
+    /// What Enter answers to a question.
+    enum DefaultAnswer { Yes, No };
     /// Asks yes or no; 1 for yes, 0 for no.
-    static int question(QWidget *parent, const QString &title, const QString &text);
+    static int question(QWidget *parent, const QString &title, const QString &text,
+                        DefaultAnswer answer = Yes);
     /// Asks for a file that exists; empty if the user thought better of it.
     static QString openFileName(QWidget *parent, const QString &title, const QString &dir,
                                 const QString &filter);

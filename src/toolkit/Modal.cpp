@@ -9,9 +9,10 @@ namespace {
 /// Runs a box that its parent may take along while it is open; the parent would delete a box on
 /// the stack as well. 0 when the box went that way.
 int runBox(QMessageBox::Icon icon, QWidget *parent, const QString &title, const QString &text,
-           QMessageBox::StandardButtons buttons)
+           QMessageBox::StandardButtons buttons, QMessageBox::StandardButton first)
 {
     const QPointer<QMessageBox> box = new QMessageBox(icon, title, text, buttons, parent);
+    box->setDefaultButton(first);
     const int answer = box->exec();
     delete box;
     return answer;
@@ -73,15 +74,17 @@ int Modal::exec(QDialog *dialog)
 void Modal::warning(QWidget *parent, const QString &title, const QString &text)
 {
     instance()->ask(promptOf(ModalPrompt::Warning, parent, title, text), [&] {
-        return runBox(QMessageBox::Warning, parent, title, text, QMessageBox::Ok);
+        return runBox(QMessageBox::Warning, parent, title, text, QMessageBox::Ok, QMessageBox::Ok);
     });
 }
 
-int Modal::question(QWidget *parent, const QString &title, const QString &text)
+int Modal::question(QWidget *parent, const QString &title, const QString &text,
+                    DefaultAnswer answer)
 {
     const auto user = [&] {
         return int(runBox(QMessageBox::Question, parent, title, text,
-                          QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes);
+                          QMessageBox::Yes | QMessageBox::No,
+                          answer == Yes ? QMessageBox::Yes : QMessageBox::No) == QMessageBox::Yes);
     };
     return instance()->ask(promptOf(ModalPrompt::Question, parent, title, text), user).toInt();
 }

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 
 #include <memory>
 
@@ -19,6 +20,7 @@ private slots:
     void cleanup();
     void nothing();
     void findingsHaveWaysToGo();
+    void goingThereKeepsThePlace();
     void followsChanges();
     void followsTheShownProfile();
     void allProfiles();
@@ -73,6 +75,29 @@ void tst_CheckPage::findingsHaveWaysToGo()
     clickOn(content()->findChildren<QPushButton *>()[1]);
     QCOMPARE(asked.count(), 1);
     QCOMPARE(asked[0], QVariantList({0, 9}));
+}
+
+void tst_CheckPage::goingThereKeepsThePlace()
+{
+    for (int profile = 0; profile < 20; ++profile) {
+        m_shell->assign(3, 5, profile);
+        m_shell->assign(9, 5, profile);
+    }
+    m_page->setScope(CheckPage::AllProfiles);
+    QCoreApplication::processEvents();
+    auto *const bar = child<QScrollArea>(m_page.get(), "m_findings")->verticalScrollBar();
+    QVERIFY(bar->maximum() > 300);
+    bar->setValue(300);
+    QWidget *const chip = content()->findChildren<QPushButton *>().last();
+    chip->setFocus();
+    m_shell->context.setProfile(19);
+    QCoreApplication::processEvents();
+    QVERIFY(chip->hasFocus());
+    const int place = bar->value();
+    m_shell->assign(3, 69, 19); // one finding goes
+    QTRY_COMPARE(summary(), QStringLiteral("19 things to look at."));
+    QTRY_COMPARE(bar->value(), std::min(place, bar->maximum()));
+    QVERIFY(bar->value() > 200);
 }
 
 void tst_CheckPage::followsChanges()

@@ -371,6 +371,13 @@ void tst_ExchangeDlg::saysWhatWasLeftOut()
     const QByteArray after = store().state().toBytes();
     dialog.importChecked();
     QVERIFY(store().state().toBytes() == after);
+    // another file, or the same once more
+    QVERIFY(!child<QTreeWidget>(&dialog, "m_importList")->isEnabled());
+    QVERIFY(dialog.openFile(name));
+    QVERIFY(child<QTreeWidget>(&dialog, "m_importList")->isEnabled());
+    QCOMPARE(child<QPushButton>(&dialog, "m_importCancelBtn")->text(), QStringLiteral("CANCEL"));
+    dialog.importChecked();
+    QVERIFY(store().state().toBytes() == after);
 }
 
 void tst_ExchangeDlg::openByTheUser()

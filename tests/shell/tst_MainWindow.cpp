@@ -66,6 +66,8 @@ private slots:
     void longPressIsTakenOnce();
     void captureEndsElsewhere();
     void reopening();
+    void shownProfileIsKeptAtOnce();
+    void keysComeIntoView();
     void reopeningWithNothingToApply();
     void anyBytesAreShown();
     void secondShell();
@@ -507,11 +509,14 @@ void tst_MainWindow::renamingNeedsTheNames()
     auto *const list = child<ProfileList>(m_window.get(), "m_profileList");
     m_window->resize(1024, 700);
     QTRY_VERIFY(list->isCompact());
+    emit m_shell->context.goTo(23, NoKey);
     list->rename();
     QVERIFY(!list->isCompact());
+    QTRY_VERIFY(list->findChild<QLineEdit *>(QStringLiteral("m_nameEdit")));
     auto *const edit = child<QLineEdit>(list, "m_nameEdit");
     QVERIFY(edit->isVisible());
     QTRY_VERIFY(edit->width() > 100);
+    QVERIFY(!edit->visibleRegion().isEmpty());
 }
 
 void tst_MainWindow::longNamesDoNotWidenTheWindow()
@@ -727,6 +732,29 @@ void tst_MainWindow::reopening()
     QCOMPARE(key(7)->text(), QStringLiteral("W"));
 }
 
+/// As after a process that was killed: nothing was told of an end.
+void tst_MainWindow::shownProfileIsKeptAtOnce()
+{
+    emit m_shell->context.goTo(2, NoKey);
+    m_shell->store().flush();
+    QCOMPARE(m_shell->store().setting(QStringLiteral("shownProfile")), QStringLiteral("2"));
+}
+
+void tst_MainWindow::keysComeIntoView()
+{
+    m_window->resize(1024, 700);
+    m_window->showPage(ShellPage::Check);
+    emit m_shell->context.goTo(3, NoKey);
+    QCOMPARE(m_window->shownPage(), ShellPage::Check);
+    emit m_shell->context.keysWanted();
+    QCOMPARE(m_window->shownPage(), ShellPage::Mapping);
+    m_window->resize(1900, 1000);
+    m_window->showPage(ShellPage::Check);
+    QCoreApplication::processEvents();
+    emit m_shell->context.keysWanted();
+    QCOMPARE(m_window->shownPage(), ShellPage::Check);
+}
+
 void tst_MainWindow::reopeningWithNothingToApply()
 {
     assign(7, "btn_48");
@@ -768,6 +796,18 @@ void tst_MainWindow::fullDisk()
     m_shell->store().setPageLimit(0);
     QVERIFY(m_shell->store().flush());
     QCOMPARE(saved->text(), QStringLiteral("Saved"));
+    const QString again = QStringLiteral("All changes are saved again.");
+    auto *const message = child<QLabel>(bar, "m_messageLab");
+    QVERIFY(message->text().endsWith(again));
+    m_shell->store().setPageLimit(m_shell->store().pageCount());
+    for (int index = 28; index < 56 && m_shell->store().isSaved(); ++index) {
+        m_shell->store().addMacro(0, QStringLiteral("M%1").arg(index), {});
+        m_shell->store().flush();
+    }
+    QCOMPARE(saved->text(), QStringLiteral("NOT SAVED"));
+    QVERIFY(!message->text().endsWith(again));
+    QCOMPARE(message->text().count('\n'), 1);
+    m_shell->store().setPageLimit(0);
 }
 
 void tst_MainWindow::closingWithWhatCannotBeSaved()

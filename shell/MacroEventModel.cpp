@@ -1,6 +1,7 @@
 #include "shell/MacroEventModel.h"
 
 #include "host/KeyText.h"
+#include "shell/MacroRecorder.h"
 #include "shell/ShellStyle.h"
 #include "vocabulary/KeyCodes.h"
 
@@ -10,8 +11,6 @@
 #include <set>
 
 namespace {
-
-constexpr int MaxDelay = 65535;
 
 std::vector<ushort> collectCodes()
 {
@@ -127,7 +126,7 @@ void MacroEventModel::setAllDelays(int delay)
 {
     Events events = m_events;
     for (vantrix_macro_event &event : events)
-        event.delay = quint16(std::clamp(delay, 0, MaxDelay));
+        event.delay = quint16(std::clamp(delay, 0, MacroRecorder::MaxDelay));
     if (events == m_events)
         return;
     m_events = events;
@@ -200,7 +199,7 @@ bool MacroEventModel::change(vantrix_macro_event &event, int column, int value)
     else if (column == KeyColumn)
         event.code = quint16(value);
     else
-        event.delay = quint16(std::clamp(value, 0, MaxDelay));
+        event.delay = quint16(std::clamp(value, 0, MacroRecorder::MaxDelay));
     return !(event == before);
 }
 

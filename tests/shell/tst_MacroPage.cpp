@@ -448,7 +448,10 @@ void tst_MacroPage::shortcutsAreRecordedNotRun()
     QWidget *const pad = child<QLabel>("m_recordPad");
     QTest::keyClick(pad, Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(ran.count(), 0);
+    type(0x2C, 0x5A, 30);
     click("m_recordBtn");
+    QCOMPARE(ran.count(), 0);
+    QVERIFY(events("Save") == Events({{29, 1, 30}, {29, 0, 0}}));
 }
 
 // ---- events ----

@@ -2,6 +2,7 @@
 
 #include "ShellFixture.h"
 #include "core/VantrixMapWid.h"
+#include "host/ProfileExchange.h"
 #include "interfaces/Modal.h"
 #include "shell/Language.h"
 #include "shell/MappingView.h"
@@ -235,19 +236,19 @@ void tst_MainWindow::undoGoesToItsProfile()
 void tst_MainWindow::stepsHaveNames()
 {
     auto actions = m_window->findChildren<QAction *>();
-    const auto named = [&actions](const QString &text) {
+    const auto state = [&actions](const QString &text) {
         for (const QAction *action : actions) {
             if (action->text().remove(QLatin1Char('&')) == text)
-                return action->isEnabled();
+                return QLatin1String(action->isEnabled() ? "enabled" : "disabled");
         }
-        return false;
+        return QLatin1String("none");
     };
-    QVERIFY(!named(QStringLiteral("Undo")));
+    QCOMPARE(state(QStringLiteral("Undo")), QLatin1String("disabled"));
     assign(7, "btn_48");
-    QVERIFY(named(QStringLiteral("Undo Assign B to key 7")));
+    QCOMPARE(state(QStringLiteral("Undo Assign B to key 7")), QLatin1String("enabled"));
     m_window->undo();
-    QVERIFY(named(QStringLiteral("Redo Assign B to key 7")));
-    QVERIFY(!named(QStringLiteral("Undo")));
+    QCOMPARE(state(QStringLiteral("Redo Assign B to key 7")), QLatin1String("enabled"));
+    QCOMPARE(state(QStringLiteral("Undo")), QLatin1String("disabled"));
 }
 
 void tst_MainWindow::statusKeepsUpWithSteps()
@@ -322,7 +323,7 @@ void tst_MainWindow::editAnything(std::mt19937 &random)
     ProfileStore &store = m_shell->store();
     const int profile = int(random() % 24);
     const QStringList macros = state().macroNames(0);
-    switch (random() % 12) {
+    switch (random() % 16) {
     case 0:
         emit m_shell->context.goTo(profile, int(random() % 29));
         break;
@@ -340,6 +341,32 @@ void tst_MainWindow::editAnything(std::mt19937 &random)
         break;
     case 5:
         store.duplicateProfile(0, m_shell->context.profile(), profile);
+        break;
+    case 12: {
+        vantrix_key_mapping dual = clearedKey();
+        dual.type = KeyType::DualAction;
+        dual.digital = {quint16(4 + random() % 26), 5, quint8(random() % 3),
+                        quint8(10 + random() % 81)};
+        store.setKeyMapping(0, profile, int(random() % 28), &dual);
+        break;
+    }
+    case 13:
+        m_window->showPage(ShellPage::Changes);
+        QCoreApplication::processEvents();
+        child<QPushButton>(m_window.get(), "m_putBackAllBtn")->click();
+        break;
+    case 14: {
+        ExchangeContent content = ProfileExchange::take(state(), 0, {profile});
+        content.profiles[0].profile = int(random() % 24);
+        ProfileExchange::put(content, store, 0);
+        break;
+    }
+    case 15:
+        if (!macros.isEmpty()) {
+            vantrix_macro_record record;
+            record.count = quint8(1 + random() % 9);
+            store.setMacro(0, macros.at(int(random() % quint32(macros.size()))), record);
+        }
         break;
     case 6: {
         const QString name = store.freeMacroName(0, QStringLiteral("Macro"));

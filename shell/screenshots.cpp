@@ -267,7 +267,8 @@ private:
         auto *const field = get<QLineEdit>("m_findField");
         field->setFocus();
         field->setText(QStringLiteral("save"));
-        draw("find", ShellPage::Mapping, Window);
+        settle(Window); // turning to a page would close the list
+        save("find", m_window);
         field->clear();
     }
 

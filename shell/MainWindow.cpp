@@ -262,7 +262,10 @@ void MainWindow::connectContext()
     connect(&m_context, &ShellContext::newMacroRequested, this,
             [this] { showPage(ShellPage::Macros); });
     connect(&m_context, &ShellContext::historyRequested, this, &MainWindow::travelTo);
-    connect(&m_context, &ShellContext::status, this, &MainWindow::say);
+    connect(&m_context, &ShellContext::status, this, [this](const QString &text) {
+        say(text);
+        m_isNews = true;
+    });
     connect(&m_context, &ShellContext::profileShown, this, &MainWindow::updateState);
     connect(&store, &ProfileStore::profileChanged, this, &MainWindow::updateState);
     connect(&store, &ProfileStore::macrosChanged, this, &MainWindow::updateState);
@@ -336,7 +339,7 @@ void MainWindow::sayWhoHasTheKeyboard()
         m_captureHint = tr("%1 takes the next key you press. Ctrl+K, with no key selected, "
                            "switches that off.")
                             .arg(KeyTitle::withLegend(key));
-    if (!m_captureHint.isEmpty())
+    if (!m_captureHint.isEmpty() && !m_isNews)
         m_status->setText(m_captureHint);
     else if (wasSaid)
         say(lastStep() == m_stepOfStatus ? QString() : m_context.store().undoName());
@@ -540,6 +543,11 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_shown && event->type() == QEvent::Resize)
         showName();
+    // What was said may be read until something else is done.
+    const bool isDeed =
+        event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress;
+    if (isDeed && std::exchange(m_isNews, false))
+        sayWhoHasTheKeyboard();
     // While the page captures, every key is meant for it, the window's shortcuts included.
     if (event->type() == QEvent::ShortcutOverride &&
         m_context.services().keyCapture().capturing()) {

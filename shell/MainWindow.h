@@ -87,6 +87,7 @@ private:
     QLabel *m_saved = nullptr;
     std::pair<int, QString> m_stepOfStatus; ///< last step when the status was said
     QString m_captureHint;
+    bool m_isNews = false; ///< the status tells what the last deed led to
     ShellPage m_page = ShellPage::Mapping;
     bool m_hasRoomForNames = true;
 };

@@ -60,6 +60,7 @@ private slots:
     void languageIsSpokenAtOnce();
     void captureCanBeForbidden();
     void hintLeavesWithTheMappingPage();
+    void hintWaitsForNewsToBeRead();
     void hintIsNotForRecordingMacros();
     void captureKeepsShortcutsOut();
     void releasesOfOtherWindowsAreNotTaken();
@@ -636,6 +637,21 @@ void tst_MainWindow::hintLeavesWithTheMappingPage()
     QCOMPARE(said(), QStringLiteral("Assign B to key 7"));
     m_window->undo();
     QCOMPARE(said(), QStringLiteral("Undone: Assign B to key 7"));
+}
+
+void tst_MainWindow::hintWaitsForNewsToBeRead()
+{
+    clickOn(key(7));
+    m_shell->store().flush();
+    QVERIFY(said().startsWith(QStringLiteral("Key 7 (W) takes the next key you press.")));
+    emit m_shell->context.status(QStringLiteral("One profile was imported."));
+    m_window->mappingView()->setCaptureAllowed(false);
+    m_window->mappingView()->setCaptureAllowed(true); // as after a dialog
+    QVERIFY(m_shell->services.keyCapture().capturing());
+    QCOMPARE(said(), QStringLiteral("One profile was imported."));
+    QTest::mousePress(key(7), Qt::LeftButton);
+    QVERIFY(said().startsWith(QStringLiteral("Key 7 (W) takes the next key you press.")));
+    QTest::mouseRelease(key(7), Qt::LeftButton);
 }
 
 void tst_MainWindow::hintIsNotForRecordingMacros()

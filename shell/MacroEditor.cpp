@@ -4,6 +4,7 @@
 #include "shell/KeyCombo.h"
 #include "shell/MacroEventDelegate.h"
 #include "shell/MacroEventModel.h"
+#include "shell/NamedButton.h"
 #include "shell/ShellStyle.h"
 #include "shell/WidgetKeys.h"
 
@@ -12,7 +13,6 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
 #include <QSpinBox>
 #include <QTableView>
 
@@ -63,15 +63,6 @@ void MacroEditor::setClock(MacroRecorder::Clock clock)
 }
 
 // ---- building ----
-
-QPushButton *MacroEditor::button(QWidget *parent, const char *name, const QString &text,
-                                 Command slot)
-{
-    auto *const made = new QPushButton(text, parent);
-    made->setObjectName(QLatin1String(name));
-    connect(made, &QPushButton::clicked, this, slot);
-    return made;
-}
 
 void MacroEditor::makeHead(QVBoxLayout *layout)
 {
@@ -137,7 +128,8 @@ QWidget *MacroEditor::makeRecordRow()
 {
     auto *const box = new QWidget(this);
     auto *const row = new FlowLayout(box);
-    m_recordBtn = button(box, "m_recordBtn", tr("RECORD"), &MacroEditor::toggleRecording);
+    m_recordBtn =
+        namedButton(box, "m_recordBtn", tr("RECORD"), this, &MacroEditor::toggleRecording);
     m_recordBtn->setToolTip(tr("Record keys at the end of the macro"));
     // a click on STOP must not take the focus first, which would stop the recording already
     m_recordBtn->setFocusPolicy(Qt::TabFocus);
@@ -153,7 +145,8 @@ QWidget *MacroEditor::makeRecordRow()
     m_fixedDelay->setRange(0, MacroRecorder::MaxDelay);
     m_fixedDelay->setValue(StandardDelay);
     m_fixedDelay->setSuffix(tr(" ms"));
-    m_setDelaysBtn = button(box, "m_setDelaysBtn", tr("SET ALL"), &MacroEditor::setDelays);
+    m_setDelaysBtn =
+        namedButton(box, "m_setDelaysBtn", tr("SET ALL"), this, &MacroEditor::setDelays);
     m_setDelaysBtn->setToolTip(tr("Give all events of the macro this delay"));
     for (QWidget *const made :
          std::initializer_list<QWidget *>{m_recordBtn, m_delayMode, m_fixedDelay, m_setDelaysBtn})
@@ -181,14 +174,16 @@ QWidget *MacroEditor::makeEventRow()
     m_newKey->setMinimumContentsLength(5);
     row->addWidget(m_newEvent);
     row->addWidget(m_newKey, 1);
-    row->addWidget(button(box, "m_addEventBtn", tr("ADD"), &MacroEditor::addEvent));
-    m_upBtn = button(box, "m_upBtn", QStringLiteral("\u25B2"), &MacroEditor::moveUp);
-    m_downBtn = button(box, "m_downBtn", QStringLiteral("\u25BC"), &MacroEditor::moveDown);
+    row->addWidget(namedButton(box, "m_addEventBtn", tr("ADD"), this, &MacroEditor::addEvent));
+    m_upBtn = namedButton(box, "m_upBtn", QStringLiteral("\u25B2"), this, &MacroEditor::moveUp);
+    m_downBtn =
+        namedButton(box, "m_downBtn", QStringLiteral("\u25BC"), this, &MacroEditor::moveDown);
     m_upBtn->setToolTip(tr("Move the event up (Alt+Up)"));
     m_upBtn->setAccessibleName(m_upBtn->toolTip());
     m_downBtn->setToolTip(tr("Move the event down (Alt+Down)"));
     m_downBtn->setAccessibleName(m_downBtn->toolTip());
-    m_deleteEventBtn = button(box, "m_deleteEventBtn", tr("DELETE"), &MacroEditor::deleteEvents);
+    m_deleteEventBtn =
+        namedButton(box, "m_deleteEventBtn", tr("DELETE"), this, &MacroEditor::deleteEvents);
     auto *const chosen = new QHBoxLayout;
     rows->addLayout(chosen);
     chosen->addWidget(new QLabel(tr("Chosen events:"), box), 1);

@@ -51,13 +51,10 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    using Command = void (MacroEditor::*)();
-
     void makeHead(QVBoxLayout *layout);
     QWidget *makeRecordRow();
     void makeTable();
     QWidget *makeEventRow();
-    QPushButton *button(QWidget *parent, const char *name, const QString &text, Command slot);
     void renameKeys();
     void showState();
     bool needMacro();

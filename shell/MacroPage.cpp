@@ -3,6 +3,7 @@
 #include "shell/FlowLayout.h"
 #include "shell/KeyTitle.h"
 #include "shell/MacroEditor.h"
+#include "shell/NamedButton.h"
 #include "shell/ShellStyle.h"
 #include "shell/WidgetKeys.h"
 #include "vocabulary/Common.h"
@@ -10,7 +11,6 @@
 #include <QBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QTreeWidget>
@@ -31,7 +31,7 @@ MacroPage::MacroPage(ShellContext &context, QWidget *parent) : QWidget(parent), 
     setObjectName(QStringLiteral("m_macroPage"));
     setStyleSheet(ShellStyle::panelSheet());
     auto *const outer = new QVBoxLayout(this);
-    m_backBtn = button(this, "m_backBtn", tr("BACK TO THE KEYS"), &MacroPage::goBack);
+    m_backBtn = namedButton(this, "m_backBtn", tr("BACK TO THE KEYS"), this, &MacroPage::goBack);
     m_backBtn->hide();
     outer->addWidget(m_backBtn, 0, Qt::AlignLeft);
     m_columns = new QBoxLayout(QBoxLayout::TopToBottom);
@@ -68,14 +68,6 @@ void MacroPage::setClock(MacroRecorder::Clock clock)
 
 // ---- building ----
 
-QPushButton *MacroPage::button(QWidget *parent, const char *name, const QString &text, Command slot)
-{
-    auto *const made = new QPushButton(text, parent);
-    made->setObjectName(QLatin1String(name));
-    connect(made, &QPushButton::clicked, this, slot);
-    return made;
-}
-
 QWidget *MacroPage::makeList()
 {
     auto *const box = new QWidget(this);
@@ -83,11 +75,12 @@ QWidget *MacroPage::makeList()
     layout->setContentsMargins(0, 0, 0, 0);
     auto *const buttons = new QWidget(box);
     auto *const row = new FlowLayout(buttons);
-    row->addWidget(button(buttons, "m_newBtn", tr("NEW"), &MacroPage::newMacro));
-    m_duplicateBtn = button(buttons, "m_duplicateBtn", tr("COPY"), &MacroPage::duplicateMacro);
+    row->addWidget(namedButton(buttons, "m_newBtn", tr("NEW"), this, &MacroPage::newMacro));
+    m_duplicateBtn =
+        namedButton(buttons, "m_duplicateBtn", tr("COPY"), this, &MacroPage::duplicateMacro);
     m_duplicateBtn->setToolTip(tr("Make another macro with the same events"));
-    m_renameBtn = button(buttons, "m_renameBtn", tr("RENAME"), &MacroPage::renameMacro);
-    m_deleteBtn = button(buttons, "m_deleteBtn", tr("DELETE"), &MacroPage::deleteMacro);
+    m_renameBtn = namedButton(buttons, "m_renameBtn", tr("RENAME"), this, &MacroPage::renameMacro);
+    m_deleteBtn = namedButton(buttons, "m_deleteBtn", tr("DELETE"), this, &MacroPage::deleteMacro);
     for (QPushButton *const made : {m_duplicateBtn, m_renameBtn, m_deleteBtn})
         row->addWidget(made);
     layout->addWidget(buttons);

@@ -46,10 +46,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    using Command = void (MacroPage::*)();
-
     QWidget *makeList();
-    QPushButton *button(QWidget *parent, const char *name, const QString &text, Command slot);
 
     void refresh();
     void refreshList();

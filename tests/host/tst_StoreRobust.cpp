@@ -74,6 +74,15 @@ private:
     {
         return int(store.state().mapping(Owner, 0, keyIdx).code);
     }
+    /// Saves and closes a store that has code 4 on key 1 and got 5 on key 2, and reads it again.
+    void checkReopened(std::unique_ptr<ProfileStore> store) const
+    {
+        QVERIFY(store->flush());
+        store.reset();
+        const ProfileStore again(file());
+        QCOMPARE(codeOf(again, 1), 4);
+        QCOMPARE(codeOf(again, 2), 5);
+    }
     /// A store with key 1 on code 4 and a good copy of it.
     void makeStore() const
     {
@@ -342,10 +351,7 @@ void tst_StoreRobust::readOnlyFolder()
     QVERIFY(store->flush());
     QVERIFY(store->isSaved());
     QCOMPARE(store->messages().last(), QStringLiteral("All changes are saved again."));
-    store.reset();
-    const ProfileStore again(file());
-    QCOMPARE(codeOf(again, 1), 4);
-    QCOMPARE(codeOf(again, 2), 5);
+    checkReopened(std::move(store));
 #else
     QSKIP("needs a second user");
 #endif
@@ -446,11 +452,7 @@ void tst_StoreRobust::unreadableAtStart()
     }
     QTRY_COMPARE(codeOf(*store, 1), 4);
     assign(*store, 2, 5);
-    QVERIFY(store->flush());
-    store.reset();
-    const ProfileStore again(file());
-    QCOMPARE(codeOf(again, 1), 4);
-    QCOMPARE(codeOf(again, 2), 5);
+    checkReopened(std::move(store));
 #else
     QSKIP("needs a second user");
 #endif
@@ -503,11 +505,7 @@ void tst_StoreRobust::fullDiskAtStart()
         assign(*store, 2, 5);
         QVERIFY(!store->flush());
     }
-    QVERIFY(store->flush());
-    store.reset();
-    const ProfileStore again(file());
-    QCOMPARE(codeOf(again, 1), 4);
-    QCOMPARE(codeOf(again, 2), 5);
+    checkReopened(std::move(store));
     QVERIFY(!QFile::exists(file() + QStringLiteral(".unread-1")));
 #else
     QSKIP("needs a limit on the size of files");
@@ -531,10 +529,7 @@ void tst_StoreRobust::brokenOnAFullDisk()
     }
     QVERIFY(store->flush());
     QCOMPARE(store->messages().mid(2), QStringList(QStringLiteral("All changes are saved again.")));
-    store.reset();
-    const ProfileStore again(file());
-    QCOMPARE(codeOf(again, 1), 4);
-    QCOMPARE(codeOf(again, 2), 5);
+    checkReopened(std::move(store));
     QCOMPARE(read(file() + QStringLiteral(".broken-1")), QByteArray("nonsense"));
 #else
     QSKIP("needs a limit on the size of files");
@@ -554,11 +549,7 @@ void tst_StoreRobust::missingOnAFullDisk()
         assign(*store, 2, 5);
         QVERIFY(!store->flush());
     }
-    QVERIFY(store->flush());
-    store.reset();
-    const ProfileStore again(file());
-    QCOMPARE(codeOf(again, 1), 4);
-    QCOMPARE(codeOf(again, 2), 5);
+    checkReopened(std::move(store));
 #else
     QSKIP("needs a limit on the size of files");
 #endif

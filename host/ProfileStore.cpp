@@ -56,19 +56,31 @@ void ProfileStore::take(StoreContent content)
 {
     m_state = std::move(content.state);
     m_history.restore(std::move(content.steps), content.position, content.drift);
+    readPaths();
+}
+
+void ProfileStore::readPaths()
+{
     const std::lock_guard lock(m_pathMutex);
+    m_paths.clear();
     for (const auto &[id, bytes] : m_state.records()) {
         if (id.table == StoreTable::AppPath)
             m_paths[id.index] = QString::fromUtf8(bytes);
     }
 }
 
-/// Shows what was on disk all the while in place of what there is in memory.
+/// Shows what is on disk in place of what there is in memory, but for settings that were made.
 void ProfileStore::replaceAll(StoreContent content)
 {
     const Replacing replacing(this);
     const StoreState before = m_state;
+    const std::set<RecordId> unsaved = std::exchange(m_unsaved, {});
     take(std::move(content));
+    for (const RecordId &id : unsaved) {
+        if (id.table == StoreTable::Setting || id.table == StoreTable::AppPath)
+            put(id, before.record(id));
+    }
+    readPaths();
     for (const StoreState &state : {before, m_state}) {
         for (const auto &row : state.records())
             note(row.first);
@@ -163,7 +175,9 @@ bool ProfileStore::flush()
     if (m_stepDepth > 0)
         return false;
     closeStep();
-    const bool saved = m_unsaved.empty() && m_history.changedSteps().empty() ? isSaved() : save();
+    const bool isUpToDate =
+        m_unsaved.empty() && m_history.changedSteps().empty() && !m_keeper->isMissing();
+    const bool saved = isUpToDate ? isSaved() : save();
     emitChanges();
     return saved;
 }
@@ -322,11 +336,12 @@ bool ProfileStore::save()
 {
     const bool saved = m_keeper->save(m_state, m_history, m_unsaved);
     if (saved) {
-        m_unsaved.clear();
-        m_history.markSaved();
-        m_retry.stop();
         if (auto found = m_keeper->takeFound())
             replaceAll(std::move(*found));
+        else
+            m_unsaved.clear();
+        m_history.markSaved();
+        m_retry.stop();
     } else if (!m_retry.isActive()) {
         m_retry.start();
     }

@@ -227,6 +227,7 @@ private:
 
     static bool isValid(int profile) { return profile >= 0 && profile < ProfileCount; }
     void take(StoreContent content);
+    void readPaths();
     void replaceAll(StoreContent content);
     void change(const RecordId &id, const QByteArray &bytes);
     void put(const RecordId &id, const QByteArray &bytes);

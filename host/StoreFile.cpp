@@ -8,6 +8,7 @@
 #include <QUuid>
 #include <QVariant>
 
+#include <algorithm>
 #include <filesystem>
 
 #ifdef Q_OS_UNIX
@@ -51,17 +52,6 @@ QVariant valueOf(const QSqlDatabase &db, const QString &sql)
     return query.exec(sql) && query.next() ? query.value(0) : QVariant();
 }
 
-/// A number that tells the file of that name from any other; 0 if there is none.
-quint64 fileId(const QString &name)
-{
-#ifdef Q_OS_UNIX
-    struct stat info = {};
-    return ::stat(QFile::encodeName(name).constData(), &info) == 0 ? quint64(info.st_ino) : 0;
-#else
-    return QFile::exists(name) ? 1 : 0;
-#endif
-}
-
 /// Makes sure that a file that was just written survives a power cut.
 void syncFile(const QString &name)
 {
@@ -103,6 +93,16 @@ struct StoreFile::Statements
     QSqlQuery putMeta;
 };
 
+quint64 StoreFile::idOf(const QString &name)
+{
+#ifdef Q_OS_UNIX
+    struct stat info = {};
+    return ::stat(QFile::encodeName(name).constData(), &info) == 0 ? quint64(info.st_ino) : 0;
+#else
+    return QFile::exists(name) ? 1 : 0;
+#endif
+}
+
 StoreFile::StoreFile() = default;
 
 StoreFile::~StoreFile()
@@ -130,8 +130,7 @@ StoreError StoreFile::open(const QString &name, Access access)
 {
     close();
     m_name = name;
-    m_fileId = fileId(name);
-    m_isWhole = true;
+    m_fileId = idOf(name);
     m_companionIds.clear();
     const QString timeout = QStringLiteral("QSQLITE_BUSY_TIMEOUT=200");
     const QString reading = QStringLiteral("QSQLITE_OPEN_READONLY;") + timeout;
@@ -143,7 +142,6 @@ StoreError StoreFile::open(const QString &name, Access access)
         // written and room, unless it is told that nobody writes; then it passes over its journal
         close();
         m_name = name;
-        m_isWhole = QFileInfo(name + QStringLiteral("-wal")).size() == 0;
         const QString url = QString::fromLatin1(QUrl::fromLocalFile(name).toEncoded()) +
                             QStringLiteral("?immutable=1");
         return connect(url, QStringLiteral("QSQLITE_OPEN_URI;") + reading);
@@ -173,14 +171,33 @@ StoreError StoreFile::check() const
     if (!query.exec(QStringLiteral("SELECT count(*) FROM sqlite_master")))
         return errorOf(query.lastError());
     query.finish();
-    if (valueOf(m_db, QStringLiteral("PRAGMA application_id")).toInt() != ApplicationId)
+    QVariant application;
+    QVariant version;
+    QVariant health;
+    StoreError error = ask(QStringLiteral("PRAGMA application_id"), &application);
+    if (error == StoreError::None && application.toInt() != ApplicationId)
         return StoreError::Damaged;
-    const int version = valueOf(m_db, QStringLiteral("PRAGMA user_version")).toInt();
-    if (version > SchemaVersion)
+    if (error == StoreError::None)
+        error = ask(QStringLiteral("PRAGMA user_version"), &version);
+    if (error == StoreError::None && version.toInt() > SchemaVersion)
         return StoreError::Newer;
-    if (valueOf(m_db, QStringLiteral("PRAGMA quick_check")).toString() != QLatin1String("ok"))
+    if (error == StoreError::None)
+        error = ask(QStringLiteral("PRAGMA quick_check"), &health);
+    if (error != StoreError::None)
+        return error;
+    if (health.toString() != QLatin1String("ok"))
         return StoreError::Damaged;
-    return version < SchemaVersion ? StoreError::Older : StoreError::None;
+    return version.toInt() < SchemaVersion ? StoreError::Older : StoreError::None;
+}
+
+/// First column of the first row.
+StoreError StoreFile::ask(const QString &sql, QVariant *value) const
+{
+    QSqlQuery query(m_db);
+    if (!query.exec(sql) || !query.next())
+        return query.lastError().isValid() ? errorOf(query.lastError()) : StoreError::Damaged;
+    *value = query.value(0);
+    return StoreError::None;
 }
 
 void StoreFile::close()
@@ -196,20 +213,20 @@ void StoreFile::close()
 
 bool StoreFile::isInPlace() const
 {
-    return m_fileId != 0 && fileId(m_name) == m_fileId;
+    return m_fileId != 0 && idOf(m_name) == m_fileId;
 }
 
 /// They come with the first transaction.
 void StoreFile::noteCompanions()
 {
     for (const QString &companion : companions())
-        m_companionIds.insert(fileId(m_name + companion));
+        m_companionIds.insert(idOf(m_name + companion));
 }
 
 void StoreFile::removeLeftovers()
 {
     for (const QString &companion : companions()) {
-        const quint64 id = fileId(m_name + companion);
+        const quint64 id = idOf(m_name + companion);
         if (id != 0 && m_companionIds.count(id) > 0)
             QFile::remove(m_name + companion);
     }
@@ -454,10 +471,16 @@ StoreError StoreFile::create(const QString &name)
 
 QString StoreFile::setAside(const QString &name, const QString &suffix)
 {
+    const auto isTaken = [](const QString &wanted) {
+        return QFile::exists(wanted) ||
+               std::any_of(companions().begin(), companions().end(), [&](const QString &companion) {
+                   return QFile::exists(wanted + companion);
+               });
+    };
     QString aside;
-    for (int number = 1; aside.isEmpty() || QFile::exists(aside); ++number)
+    for (int number = 1; aside.isEmpty() || isTaken(aside); ++number)
         aside = QStringLiteral("%1.%2-%3").arg(name, suffix).arg(number);
-    if (!QFile::rename(name, aside))
+    if (QFile::exists(name) && !QFile::rename(name, aside))
         return QString();
     for (const QString &companion : companions())
         QFile::rename(name + companion, aside + companion);

@@ -51,8 +51,10 @@ public:
     StoreError open(const QString &name, Access access);
     void close();
     bool isOpen() const { return m_db.isOpen(); }
-    /// False where what was written last could not be read along with the file.
-    bool isWhole() const { return m_isWhole; }
+    /// A number that tells the file that was opened from any other.
+    quint64 id() const { return m_fileId; }
+    /// The same for the file of that name; 0 if there is none.
+    static quint64 idOf(const QString &name);
     /// True while the file of that name still is the one that was opened.
     bool isInPlace() const;
     /// Takes away what SQLite keeps beside a file, once closed, where it still is of the file that
@@ -77,7 +79,8 @@ public:
     /// Makes an empty store. The name appears only when the store is complete.
     static StoreError create(const QString &name);
     /// Renames a file, and what SQLite keeps beside it, to "name.suffix-1" or the next free
-    /// number. Gives the new name, empty if it could not be done.
+    /// number. Gives the new name, empty if it could not be done. Without the file, what lies
+    /// beside it is renamed.
     static QString setAside(const QString &name, const QString &suffix);
     /// Renames over what may be there, all at once.
     static bool replace(const QString &from, const QString &to);
@@ -89,6 +92,7 @@ public:
 private:
     StoreError connect(const QString &database, const QString &options);
     StoreError check() const;
+    StoreError ask(const QString &sql, QVariant *value) const;
     bool prepare();
     StoreError execute(QSqlQuery &query) const;
     StoreError begin();
@@ -107,6 +111,5 @@ private:
     QString m_name;
     quint64 m_fileId = 0;
     std::set<quint64> m_companionIds;
-    bool m_isWhole = true;
     std::unique_ptr<Statements> m_statements;
 };

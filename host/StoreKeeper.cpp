@@ -20,6 +20,15 @@ bool hasOwner(const QLockFile &lock)
     return lock.getLockInfo(&process, &host, &program);
 }
 
+/// Tells one content from any other.
+QByteArray printOf(const StoreContent &content)
+{
+    QByteArray bytes = content.state.toBytes() + QByteArray::number(content.position);
+    for (const StoreStep &step : content.steps)
+        bytes += step.body;
+    return bytes;
+}
+
 QString lockSuffix()
 {
     return QStringLiteral(".lock");
@@ -63,32 +72,47 @@ bool StoreKeeper::lock()
     return !hasOwner(m_lock) && m_lock.removeStaleLockFile() && m_lock.tryLock(0);
 }
 
+/// True when the lock file is that of another program that lives: it came with the folder, say.
+bool StoreKeeper::isLockOfAnother()
+{
+    qint64 process = 0;
+    QString host;
+    QString program;
+    if (!m_lock.getLockInfo(&process, &host, &program) ||
+        process == QCoreApplication::applicationPid())
+        return false;
+    QLockFile probe(m_name + lockSuffix());
+    probe.setStaleLockTime(0);
+    return !probe.tryLock(0);
+}
+
 void StoreKeeper::readOnly(StoreContent *content)
 {
     m_access = SecondReader;
-    readElsewhere(m_name, content);
-    say(tr("Another window has the store %1 open. It is shown here, but changes made here are "
-           "not kept.")
-            .arg(shortName(m_name)));
+    const bool isShown = readElsewhere(m_name, content) == StoreError::None;
+    say(tr("Another window has the store %1 open.").arg(shortName(m_name)) + QLatin1Char(' ') +
+        (isShown ? tr("It is shown here, but changes made here are not kept.")
+                 : tr("It cannot be read here, and changes made here are not kept.")));
 }
 
-StoreKeeper::Reading StoreKeeper::readElsewhere(const QString &name, StoreContent *content)
+StoreError StoreKeeper::readElsewhere(const QString &name, StoreContent *content)
 {
     if (!QFile::exists(name))
-        return Unread;
+        return StoreError::ReadOnly;
     StoreFile file;
-    const StoreError error = file.open(name, StoreFile::ReadOnlyAccess);
+    StoreError error = file.open(name, StoreFile::ReadOnlyAccess);
     if (error == StoreError::Older) {
         const QTemporaryDir elsewhere;
         const QString copy = elsewhere.filePath(QStringLiteral("store"));
-        const bool isCopied = StoreMigration::migrate(name, copy) == StoreError::None;
-        return isCopied ? readElsewhere(copy, content) : Unread;
+        error = StoreMigration::migrate(name, copy);
+        return error == StoreError::None ? readElsewhere(copy, content) : error;
     }
     StoreContent loaded;
-    if (error != StoreError::None || file.load(&loaded) != StoreError::None)
-        return Unread;
-    *content = std::move(loaded);
-    return file.isWhole() ? Whole : Partly;
+    if (error == StoreError::None)
+        error = file.load(&loaded);
+    if (error == StoreError::None)
+        *content = std::move(loaded);
+    return error;
 }
 
 /// Opens the file for writing; on failure `content` is what can be read all the same.
@@ -97,6 +121,7 @@ void StoreKeeper::takeOver(StoreContent *content)
     const StoreError error = openAny(content);
     if (error == StoreError::None) {
         m_access = Writer;
+        settle();
         return;
     }
     m_file.close();
@@ -104,16 +129,13 @@ void StoreKeeper::takeOver(StoreContent *content)
     m_writeAll = true;
     m_saved = false;
     report(error);
-    if (m_isRead)
-        return;
-    Reading reading = readElsewhere(m_name, content);
-    m_isRead = reading == Whole;
-    if (reading == Unread)
-        reading = readElsewhere(backupName(), content);
-    if (!m_isRead && QFile::exists(m_name))
-        say(reading == Unread
-                ? tr("What it holds is shown as soon as it can be read.")
-                : tr("The last good copy of it is shown until what it holds can be read."));
+    const StoreError reading = readElsewhere(m_name, content);
+    const bool isUseless = reading == StoreError::Damaged || reading == StoreError::Newer;
+    if (reading != StoreError::None && !isUseless && QFile::exists(m_name))
+        say(readElsewhere(backupName(), content) == StoreError::None
+                ? tr("The last good copy of it is shown until what it holds can be read.")
+                : tr("What it holds is shown as soon as it can be read."));
+    m_base = printOf(*content);
 }
 
 StoreError StoreKeeper::openAny(StoreContent *content)
@@ -145,7 +167,6 @@ StoreError StoreKeeper::openAndLoad(StoreContent *content)
     if (error != StoreError::None)
         return error;
     *content = std::move(loaded);
-    m_isRead = true;
     // a file in a folder that can't be written opens without complaint, so ask it
     error = m_file.probe();
     if (error == StoreError::None && !m_backupIsFresh)
@@ -155,12 +176,20 @@ StoreError StoreKeeper::openAndLoad(StoreContent *content)
 
 StoreError StoreKeeper::openNew(StoreContent *content)
 {
+    // a journal without its file would be played on the next one of that name
+    StoreFile::setAside(m_name, QStringLiteral("missing"));
     bool isFound = false;
     const StoreError error = openCopy(content, &isFound);
-    if (isFound)
+    if (isFound && isNews(*content))
         say(tr("The store %1 was missing. The last good copy of it is used.")
                 .arg(shortName(m_name)));
     return error;
+}
+
+/// Whether a content is another than what memory began with.
+bool StoreKeeper::isNews(const StoreContent &content) const
+{
+    return !m_base || printOf(content) != *m_base;
 }
 
 /// Opens what was just put in place, or an empty store when nothing was.
@@ -178,17 +207,25 @@ StoreError StoreKeeper::openFresh(StoreContent *content)
 }
 
 /// Opens the last good copy where the store should be, or an empty store when there is none. A
-/// copy for which there is no room is read all the same.
+/// copy for which there is no room is read all the same, and one that cannot be read is kept.
 StoreError StoreKeeper::openCopy(StoreContent *content, bool *isFound)
 {
-    *isFound = readElsewhere(backupName(), content) != Unread;
-    m_isRead = *isFound; // there is no other file that could be read later
-    if (!*isFound)
-        return openFresh(content);
-    StoreFile backup;
-    backup.open(backupName(), StoreFile::ReadOnlyAccess);
-    const StoreError error = backup.copyTo(m_name);
-    return error == StoreError::None ? openFresh(content) : error;
+    const StoreError reading = readElsewhere(backupName(), content);
+    *isFound = reading == StoreError::None;
+    if (*isFound) {
+        StoreFile backup;
+        backup.open(backupName(), StoreFile::ReadOnlyAccess);
+        const StoreError error = backup.copyTo(m_name);
+        return error == StoreError::None ? openFresh(content) : error;
+    }
+    if (QFile::exists(backupName()) && reading != StoreError::Damaged) {
+        const QString aside = StoreFile::setAside(backupName(), QStringLiteral("unread"));
+        if (aside.isEmpty())
+            return StoreError::ReadOnly;
+        say(tr("The copy %1 cannot be read. It was kept as %2.")
+                .arg(shortName(backupName()), shortName(aside)));
+    }
+    return openFresh(content);
 }
 
 StoreError StoreKeeper::openInsteadOf(StoreError error, StoreContent *content)
@@ -197,29 +234,35 @@ StoreError StoreKeeper::openInsteadOf(StoreError error, StoreContent *content)
     const bool newer = error == StoreError::Newer;
     const QString aside =
         StoreFile::setAside(m_name, newer ? QStringLiteral("newer") : QStringLiteral("broken"));
-    const QString reason = newer
-                               ? tr("The store %1 was written by a newer version of this program.")
-                               : tr("The store %1 is damaged and cannot be read.");
-    const QString outcome = aside.isEmpty() ? tr("It was left as it is.")
-                                            : tr("It was kept as %1.").arg(shortName(aside));
+    QString text = newer ? tr("The store %1 was written by a newer version of this program.")
+                         : tr("The store %1 is damaged and cannot be read.");
+    text = text.arg(shortName(m_name)) + QLatin1Char(' ') +
+           (aside.isEmpty() ? tr("It was left as it is.")
+                            : tr("It was kept as %1.").arg(shortName(aside)));
+    if (isOwner()) { // memory has it all
+        say(text);
+        return aside.isEmpty() ? StoreError::ReadOnly : openFresh(content);
+    }
     bool isFound = false;
     StoreError result = StoreError::ReadOnly;
     if (aside.isEmpty())
-        isFound = readElsewhere(backupName(), content) != Unread;
+        isFound = readElsewhere(backupName(), content) == StoreError::None;
     else
         result = openCopy(content, &isFound);
-    m_isRead = true; // what is left of the file is never used
-    const QString copy = isFound ? tr("The last good copy is used.")
-                                 : tr("There is no good copy of it, so everything starts empty.");
-    say(reason.arg(shortName(m_name)) + QLatin1Char(' ') + outcome + QLatin1Char(' ') + copy);
+    say(text + QLatin1Char(' ') +
+        (isFound ? tr("The last good copy is used.")
+                 : tr("There is no good copy of it, so everything starts empty.")));
     return result;
 }
 
 StoreError StoreKeeper::openOlder(StoreContent *content)
 {
     m_file.close();
-    const QString kept =
+    const QString version =
         QStringLiteral("%1.v%2").arg(m_name).arg(StoreMigration::versionOf(m_name));
+    QString kept = version;
+    for (int number = 2; QFile::exists(kept); ++number)
+        kept = QStringLiteral("%1-%2").arg(version).arg(number);
     StoreFile original;
     original.open(m_name, StoreFile::ReadOnlyAccess);
     StoreError error = original.copyTo(kept);
@@ -239,43 +282,44 @@ StoreError StoreKeeper::openOlder(StoreContent *content)
 
 bool StoreKeeper::reopen()
 {
-    if (isLost())
+    // the file was this program's, and another one is there now, or none
+    if (isLost() || (isOwner() && StoreFile::idOf(m_name) != m_ownId))
         return writeAnew();
-    if (!lock())
+    if (!lock()) {
+        if (m_lock.error() == QLockFile::LockFailedError)
+            report(StoreError::Busy);
         return false;
-    const bool wasRead = m_isRead;
-    const bool isThere = QFile::exists(m_name);
+    }
+    const int said = m_messages.size();
     StoreContent found;
-    const StoreError error = wasRead && !isThere ? openFresh(&found) : openAny(&found);
+    const StoreError error = openAny(&found);
     if (error != StoreError::None) {
-        m_isRead = wasRead;
         m_file.close();
         report(error);
         return false;
     }
     m_access = Writer;
     m_writeAll = true;
-    if (!wasRead && isThere)
+    if (m_base && isNews(found)) {
         m_found = std::move(found);
+        m_isFoundTold = m_messages.size() > said;
+    }
     return true;
 }
 
-/// Makes a new file beside the one that could not be read in time.
-StoreError StoreKeeper::replaceUnread()
+/// Makes a new file beside the one that is not what was shown.
+StoreError StoreKeeper::replaceFound()
 {
     m_found.reset();
     m_file.close();
     const QString aside = StoreFile::setAside(m_name, QStringLiteral("unread"));
-    StoreError error = aside.isEmpty() ? StoreError::ReadOnly : StoreFile::create(m_name);
-    if (error == StoreError::None)
-        error = m_file.open(m_name, StoreFile::ReadWrite);
-    if (!aside.isEmpty())
-        say(tr("The store %1 could not be read before something was changed. It was kept as %2, "
-               "and a new store was begun.")
-                .arg(shortName(m_name), shortName(aside)));
-    else
-        m_isRead = false;
-    return error;
+    if (aside.isEmpty())
+        return StoreError::ReadOnly;
+    m_base.reset();
+    m_lossNote = tr("The store %1 on the disk was another than what was shown here when something "
+                    "was changed. It was kept as %2, and a new one was begun.")
+                     .arg(shortName(m_name), shortName(aside));
+    return makeAnew();
 }
 
 /// Sees to it that what is written goes to the file of that name.
@@ -305,6 +349,8 @@ bool StoreKeeper::writeAnew()
 
 StoreError StoreKeeper::makeAnew()
 {
+    if (isLockOfAnother())
+        return StoreError::Busy;
     const QString aside =
         QFile::exists(m_name) ? StoreFile::setAside(m_name, QStringLiteral("replaced")) : QString();
     if (!aside.isEmpty())
@@ -343,11 +389,12 @@ bool StoreKeeper::save(const StoreState &state, const StoreHistory &history,
     const bool hasWork = std::any_of(changed.begin(), changed.end(),
                                      [](const RecordId &id) { return isWork(id.table); });
     if (m_found && !hasWork) {
-        say(tr("The store %1 can be read again, and is shown as it is.").arg(shortName(m_name)));
+        if (!m_isFoundTold)
+            say(tr("The store %1 is shown as it is on the disk now.").arg(shortName(m_name)));
         settle();
         return true;
     }
-    StoreError error = m_found ? replaceUnread() : StoreError::None;
+    StoreError error = m_found ? replaceFound() : StoreError::None;
     if (error == StoreError::None)
         error = m_writeAll ? m_file.saveAll(state, history) : m_file.save(state, history, changed);
     if (error != StoreError::None) {
@@ -375,6 +422,8 @@ void StoreKeeper::settle()
     m_writeAll = false;
     m_saved = true;
     m_reported = StoreError::None;
+    m_base.reset();
+    m_ownId = m_file.id();
 }
 
 void StoreKeeper::close()

@@ -17,8 +17,8 @@
 ///   place.
 /// - A file of an earlier version is migrated on a copy; the original stays as "name.v1".
 /// - A file that cannot be written leaves everything in memory, and each later `save` tries again.
-/// - A file that cannot be read either is not written over: as soon as it can be read it is shown,
-///   or set aside where something was made meanwhile.
+/// - A file that could not be opened for writing is not written over when it can be, unless it
+///   holds what memory began with: it is shown then, or set aside where something was made.
 ///
 /// What the user should know is put in plain words into `takeMessages`.
 class StoreKeeper
@@ -44,11 +44,13 @@ public:
     bool isSaved() const { return m_saved; }
     /// True while the file that held everything is gone and nothing was written in its stead.
     bool isLost() const { return !m_lossNote.isEmpty(); }
+    /// True when the file that holds everything is not where it was, which `save` mends.
+    bool isMissing() const { return m_access == Writer && !m_file.isInPlace(); }
     /// Transactions made so far.
     int transactionCount() const { return m_transactions; }
     QStringList takeMessages();
-    /// What a file holds that could not be read when it was opened, and can be now: it takes the
-    /// place of everything in memory. `save` finds it.
+    /// What the file holds that could not be opened for writing at first, where it is another than
+    /// what memory began with: it takes the place of everything in memory. `save` finds it.
     std::optional<StoreContent> takeFound() { return std::exchange(m_found, std::nullopt); }
 
     StoreFile &file() { return m_file; }
@@ -68,13 +70,15 @@ private:
     StoreError openCopy(StoreContent *content, bool *isFound);
     void readOnly(StoreContent *content);
     bool reopen();
-    StoreError replaceUnread();
+    StoreError replaceFound();
     void settle();
+    bool isOwner() const { return m_ownId != 0; }
+    bool isLockOfAnother();
+    bool isNews(const StoreContent &content) const;
     bool checkPlace();
     bool writeAnew();
     StoreError makeAnew();
-    enum Reading { Unread, Partly, Whole };
-    Reading readElsewhere(const QString &name, StoreContent *content);
+    StoreError readElsewhere(const QString &name, StoreContent *content);
     void report(StoreError error);
     void say(const QString &message);
     QString shortName(const QString &name) const;
@@ -85,9 +89,12 @@ private:
     QStringList m_messages;
     /// What became of a file that went while the program was running, for when it is back.
     QString m_lossNote;
+    /// Tells what memory began with, while the file has not been this program's.
+    std::optional<QByteArray> m_base;
     std::optional<StoreContent> m_found;
+    bool m_isFoundTold = false;
+    quint64 m_ownId = 0; ///< of the file that is this program's; 0: none is yet
     AccessState m_access = InMemory;
-    bool m_isRead = false; ///< the file held nothing that memory has not got
     StoreError m_reported = StoreError::None;
     bool m_writeAll = false;
     bool m_saved = true;

@@ -1351,10 +1351,6 @@ Press keys. To finish, press Esc twice or click STOP.</source>
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>另一个窗口已打开存储 %1。此处可以查看，但在此所做的更改不会保留。</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>存储 %1 缺失。将使用最后一个完好的副本。</translation>
     </message>
@@ -1423,12 +1419,28 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation>在可以读取其内容之前，显示最后一个完好的副本。</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>存储 %1 在有更改之前无法读取。已另存为 %2，并新建了存储。</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>存储 %1 已在另一个窗口中打开。</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>存储 %1 又可以读取，并按原样显示。</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>此处会显示它，但在此所做的更改不会保留。</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>此处无法读取它，在此所做的更改也不会保留。</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>无法读取副本 %1。已另存为 %2。</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>进行更改时，磁盘上的存储 %1 与此处显示的不同。已另存为 %2，并新建了存储。</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>存储 %1 按磁盘上的现状显示。</translation>
     </message>
 </context>
 </TS>

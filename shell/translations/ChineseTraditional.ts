@@ -1351,10 +1351,6 @@ Press keys. To finish, press Esc twice or click STOP.</source>
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>另一個視窗已開啟儲存區 %1。此處可以檢視，但在此所做的變更不會保留。</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>儲存區 %1 遺失。將使用最後一個完好的複本。</translation>
     </message>
@@ -1423,12 +1419,28 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation>在可以讀取其內容之前，顯示最後一個完好的複本。</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>儲存區 %1 在有變更之前無法讀取。已保留為 %2，並建立了新的儲存區。</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>儲存區 %1 已在另一個視窗中開啟。</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>儲存區 %1 又可以讀取，並依原樣顯示。</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>此處會顯示它，但在此所做的變更不會保留。</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>此處無法讀取它，在此所做的變更也不會保留。</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>無法讀取複本 %1。已保留為 %2。</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>進行變更時，磁碟上的儲存區 %1 與此處顯示的不同。已保留為 %2，並建立了新的儲存區。</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>儲存區 %1 依磁碟上的現況顯示。</translation>
     </message>
 </context>
 </TS>

@@ -1352,10 +1352,6 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>Une autre fenêtre a ouvert la base %1. Elle est affichée ici, mais les changements faits ici ne sont pas conservés.</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>La base %1 manquait. Sa dernière bonne copie est utilisée.</translation>
     </message>
@@ -1424,12 +1420,28 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
         <translation>Sa dernière bonne copie s’affiche jusqu’à ce que son contenu puisse être lu.</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>La base %1 n’a pu être lue qu’après une modification. Elle a été conservée sous %2, et une nouvelle base a été commencée.</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>La base %1 est ouverte dans une autre fenêtre.</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>La base %1 est de nouveau lisible et s’affiche telle quelle.</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>Elle est affichée ici, mais les modifications faites ici ne sont pas conservées.</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>Elle ne peut pas être lue ici, et les modifications faites ici ne sont pas conservées.</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>La copie %1 est illisible. Elle a été conservée sous %2.</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>La base %1 sur le disque était une autre que celle affichée ici quand une modification a été faite. Elle a été conservée sous %2, et une nouvelle a été commencée.</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>La base %1 est affichée telle qu’elle est maintenant sur le disque.</translation>
     </message>
 </context>
 </TS>

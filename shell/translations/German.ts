@@ -1352,10 +1352,6 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>Ein anderes Fenster hat den Speicher %1 geöffnet. Er wird hier gezeigt, aber Änderungen werden hier nicht behalten.</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>Der Speicher %1 fehlte. Die letzte gute Kopie wird verwendet.</translation>
     </message>
@@ -1424,12 +1420,28 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
         <translation>Die letzte gute Kopie wird gezeigt, bis sein Inhalt gelesen werden kann.</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>Der Speicher %1 konnte erst gelesen werden, als schon etwas geändert war. Er wurde als %2 aufgehoben und ein neuer Speicher begonnen.</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>Der Speicher %1 ist in einem anderen Fenster offen.</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>Der Speicher %1 kann wieder gelesen werden und wird gezeigt, wie er ist.</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>Er wird hier gezeigt, aber Änderungen von hier bleiben nicht erhalten.</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>Er kann hier nicht gelesen werden, und Änderungen von hier bleiben nicht erhalten.</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>Die Kopie %1 kann nicht gelesen werden. Sie wurde als %2 aufgehoben.</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>Der Speicher %1 auf dem Datenträger war ein anderer als der hier gezeigte, als etwas geändert wurde. Er wurde als %2 aufgehoben und ein neuer begonnen.</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>Der Speicher %1 wird gezeigt, wie er jetzt auf dem Datenträger ist.</translation>
     </message>
 </context>
 </TS>

@@ -1352,10 +1352,6 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>Un’altra finestra ha aperto l’archivio %1. Qui viene mostrato, ma le modifiche fatte qui non vengono conservate.</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>L’archivio %1 mancava. Viene usata l’ultima copia valida.</translation>
     </message>
@@ -1424,12 +1420,28 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
         <translation>Appare l’ultima copia valida finché il suo contenuto non può essere letto.</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>L’archivio %1 si è potuto leggere solo dopo una modifica. È stato conservato come %2 ed è stato iniziato un nuovo archivio.</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>L’archivio %1 è aperto in un’altra finestra.</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>L’archivio %1 può essere letto di nuovo e appare com’è.</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>Viene mostrato qui, ma le modifiche fatte qui non vengono conservate.</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>Non può essere letto qui, e le modifiche fatte qui non vengono conservate.</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>La copia %1 non può essere letta. È stata conservata come %2.</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>L’archivio %1 sul disco era diverso da quello mostrato qui quando qualcosa è stato modificato. È stato conservato come %2 e ne è stato iniziato uno nuovo.</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>L’archivio %1 appare com’è ora sul disco.</translation>
     </message>
 </context>
 </TS>

@@ -1351,10 +1351,6 @@ Press keys. To finish, press Esc twice or click STOP.</source>
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>別のウィンドウがデータ %1 を開いています。ここにも表示しますが、ここでの変更は保存されません。</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>データ %1 がありませんでした。最後の正常なコピーを使います。</translation>
     </message>
@@ -1423,12 +1419,28 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation>内容を読み込めるまで、最後の正常なコピーを表示します。</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>データ %1 は、変更が行われるまで読み込めませんでした。%2 として残し、新しいデータを作りました。</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>データ %1 は別のウィンドウで開いています。</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>データ %1 を再び読み込めるようになり、そのまま表示しています。</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>ここに表示しますが、ここでの変更は保存されません。</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>ここでは読み込めず、ここでの変更は保存されません。</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>コピー %1 を読み込めません。%2 として残しました。</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>変更が行われたとき、ディスク上のデータ %1 はここに表示していたものと違っていました。%2 として残し、新しいデータを作りました。</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>データ %1 を現在ディスク上にあるとおりに表示しています。</translation>
     </message>
 </context>
 </TS>

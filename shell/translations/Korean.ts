@@ -1351,10 +1351,6 @@ Press keys. To finish, press Esc twice or click STOP.</source>
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>다른 창에서 저장소 %1을(를) 열었습니다. 여기에 표시되지만 여기서 변경한 내용은 보관되지 않습니다.</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>저장소 %1이(가) 없었습니다. 마지막 정상 사본을 사용합니다.</translation>
     </message>
@@ -1423,12 +1419,28 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation>내용을 읽을 수 있을 때까지 마지막 정상 사본을 표시합니다.</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>저장소 %1을(를) 변경이 있기 전에 읽을 수 없었습니다. %2(으)로 보관하고 새 저장소를 시작했습니다.</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>저장소 %1이(가) 다른 창에서 열려 있습니다.</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>저장소 %1을(를) 다시 읽을 수 있어 있는 그대로 표시합니다.</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>여기에 표시되지만 여기서 변경한 내용은 보존되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>여기서는 읽을 수 없으며 여기서 변경한 내용은 보존되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>사본 %1을(를) 읽을 수 없습니다. %2(으)로 보관했습니다.</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>변경이 있었을 때 디스크의 저장소 %1은(는) 여기에 표시된 것과 달랐습니다. %2(으)로 보관하고 새 저장소를 시작했습니다.</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>저장소 %1을(를) 지금 디스크에 있는 그대로 표시합니다.</translation>
     </message>
 </context>
 </TS>

@@ -1351,10 +1351,6 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>Tetingkap lain telah membuka storan %1. Ia dipaparkan di sini, tetapi perubahan yang dibuat di sini tidak disimpan.</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>Storan %1 tiada. Salinan baik yang terakhir digunakan.</translation>
     </message>
@@ -1423,12 +1419,28 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
         <translation>Salinan baik yang terakhir ditunjukkan sehingga kandungannya dapat dibaca.</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>Storan %1 tidak dapat dibaca sebelum sesuatu diubah. Ia disimpan sebagai %2 dan storan baharu dimulakan.</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>Storan %1 dibuka dalam tetingkap lain.</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>Storan %1 dapat dibaca semula dan ditunjukkan seadanya.</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>Ia ditunjukkan di sini, tetapi perubahan di sini tidak disimpan.</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>Ia tidak dapat dibaca di sini, dan perubahan di sini tidak disimpan.</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>Salinan %1 tidak dapat dibaca. Ia disimpan sebagai %2.</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>Storan %1 pada cakera berbeza daripada yang ditunjukkan di sini apabila sesuatu diubah. Ia disimpan sebagai %2 dan yang baharu dimulakan.</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>Storan %1 ditunjukkan seperti yang ada pada cakera sekarang.</translation>
     </message>
 </context>
 </TS>

@@ -1352,10 +1352,6 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>Outra janela tem o armazém %1 aberto. É mostrado aqui, mas as alterações feitas aqui não são mantidas.</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>O armazém %1 faltava. É usada a última cópia boa.</translation>
     </message>
@@ -1424,12 +1420,28 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
         <translation>É mostrada a última cópia boa até o seu conteúdo poder ser lido.</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>O armazém %1 não pôde ser lido antes de algo ser alterado. Foi mantido como %2 e foi começado um novo armazém.</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>O armazém %1 está aberto noutra janela.</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>O armazém %1 pode ser lido de novo e é mostrado tal como está.</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>É mostrado aqui, mas as alterações feitas aqui não são mantidas.</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>Não pode ser lido aqui, e as alterações feitas aqui não são mantidas.</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>A cópia %1 não pode ser lida. Foi mantida como %2.</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>O armazém %1 no disco era outro que não o mostrado aqui quando algo foi alterado. Foi mantido como %2 e foi começado um novo.</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>O armazém %1 é mostrado tal como está agora no disco.</translation>
     </message>
 </context>
 </TS>

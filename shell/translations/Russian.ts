@@ -1353,10 +1353,6 @@ Press keys. To finish, press Esc twice or click STOP.</source>
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>Хранилище %1 открыто в другом окне. Здесь оно показано, но изменения здесь не сохраняются.</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>Хранилища %1 не было. Используется его последняя исправная копия.</translation>
     </message>
@@ -1425,12 +1421,28 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation>Пока содержимое не удаётся прочитать, показана последняя исправная копия.</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>Хранилище %1 не удалось прочитать до первого изменения. Оно сохранено как %2, и начато новое хранилище.</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>Хранилище %1 открыто в другом окне.</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>Хранилище %1 снова читается и показано как есть.</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>Оно показано здесь, но сделанные здесь изменения не сохраняются.</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>Здесь его не удаётся прочитать, и сделанные здесь изменения не сохраняются.</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>Копия %1 не читается. Она сохранена как %2.</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>Хранилище %1 на диске было не тем, что показано здесь, когда что-то изменили. Оно сохранено как %2, и начато новое.</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>Хранилище %1 показано таким, какое оно сейчас на диске.</translation>
     </message>
 </context>
 </TS>

@@ -1352,10 +1352,6 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>Otra ventana tiene abierto el almacén %1. Se muestra aquí, pero los cambios hechos aquí no se conservan.</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>Faltaba el almacén %1. Se usa su última copia buena.</translation>
     </message>
@@ -1424,12 +1420,28 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
         <translation>Se muestra su última copia buena hasta que su contenido se pueda leer.</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>El almacén %1 no se pudo leer antes de que se cambiara algo. Se ha conservado como %2 y se ha empezado un almacén nuevo.</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>El almacén %1 está abierto en otra ventana.</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>El almacén %1 se puede leer de nuevo y se muestra tal como está.</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>Se muestra aquí, pero los cambios hechos aquí no se conservan.</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>No se puede leer aquí, y los cambios hechos aquí no se conservan.</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>La copia %1 no se puede leer. Se ha conservado como %2.</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>El almacén %1 del disco era otro que el mostrado aquí cuando se cambió algo. Se ha conservado como %2 y se ha empezado uno nuevo.</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>El almacén %1 se muestra tal como está ahora en el disco.</translation>
     </message>
 </context>
 </TS>

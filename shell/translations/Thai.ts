@@ -1351,10 +1351,6 @@ Press keys. To finish, press Esc twice or click STOP.</source>
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>หน้าต่างอื่นเปิดคลังข้อมูล %1 อยู่ ข้อมูลแสดงที่นี่ แต่การเปลี่ยนแปลงที่ทำที่นี่จะไม่ถูกเก็บไว้</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>คลังข้อมูล %1 หายไป จึงใช้สำเนาที่ดีล่าสุด</translation>
     </message>
@@ -1423,12 +1419,28 @@ Press keys. To finish, press Esc twice or click STOP.</source>
         <translation>แสดงสำเนาที่ดีล่าสุดจนกว่าจะอ่านเนื้อหาได้</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>อ่านคลังข้อมูล %1 ไม่ได้ก่อนที่จะมีการเปลี่ยนแปลง จึงเก็บไว้เป็น %2 และเริ่มคลังข้อมูลใหม่</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>คลังข้อมูล %1 เปิดอยู่ในหน้าต่างอื่น</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>อ่านคลังข้อมูล %1 ได้อีกครั้งและแสดงตามที่เป็นอยู่</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>แสดงที่นี่ แต่การเปลี่ยนแปลงที่นี่จะไม่ถูกเก็บไว้</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>อ่านที่นี่ไม่ได้ และการเปลี่ยนแปลงที่นี่จะไม่ถูกเก็บไว้</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>อ่านสำเนา %1 ไม่ได้ จึงเก็บไว้เป็น %2</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>คลังข้อมูล %1 บนดิสก์ไม่ใช่สิ่งที่แสดงที่นี่เมื่อมีการเปลี่ยนแปลง จึงเก็บไว้เป็น %2 และเริ่มคลังใหม่</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>แสดงคลังข้อมูล %1 ตามที่อยู่บนดิสก์ขณะนี้</translation>
     </message>
 </context>
 </TS>

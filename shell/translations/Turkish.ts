@@ -1351,10 +1351,6 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>%1 deposu başka bir pencerede açık. Burada gösterilir, ama burada yapılan değişiklikler saklanmaz.</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>%1 deposu yoktu. Son sağlam kopyası kullanılıyor.</translation>
     </message>
@@ -1423,12 +1419,28 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
         <translation>İçeriği okunabilene kadar son sağlam kopyası gösteriliyor.</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>%1 deposu, bir şey değiştirilmeden önce okunamadı. %2 olarak saklandı ve yeni bir depo başlatıldı.</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>%1 deposu başka bir pencerede açık.</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>%1 deposu yeniden okunabiliyor ve olduğu gibi gösteriliyor.</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>Burada gösteriliyor, ama burada yapılan değişiklikler saklanmıyor.</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>Burada okunamıyor ve burada yapılan değişiklikler saklanmıyor.</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>%1 kopyası okunamıyor. %2 olarak saklandı.</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>Diskteki %1 deposu, bir şey değiştirildiğinde burada gösterilenden başkaydı. %2 olarak saklandı ve yenisi başlatıldı.</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>%1 deposu şimdi diskte olduğu gibi gösteriliyor.</translation>
     </message>
 </context>
 </TS>

@@ -1351,10 +1351,6 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
 <context>
     <name>StoreKeeper</name>
     <message>
-        <source>Another window has the store %1 open. It is shown here, but changes made here are not kept.</source>
-        <translation>Một cửa sổ khác đang mở kho %1. Nội dung được hiển thị ở đây, nhưng thay đổi ở đây không được giữ lại.</translation>
-    </message>
-    <message>
         <source>The store %1 was missing. The last good copy of it is used.</source>
         <translation>Thiếu kho %1. Bản sao tốt gần nhất được dùng.</translation>
     </message>
@@ -1423,12 +1419,28 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
         <translation>Bản sao tốt gần nhất được hiện cho đến khi đọc được nội dung của kho.</translation>
     </message>
     <message>
-        <source>The store %1 could not be read before something was changed. It was kept as %2, and a new store was begun.</source>
-        <translation>Kho %1 không đọc được trước khi có thay đổi. Kho được giữ lại với tên %2 và một kho mới đã được bắt đầu.</translation>
+        <source>Another window has the store %1 open.</source>
+        <translation>Kho %1 đang mở trong một cửa sổ khác.</translation>
     </message>
     <message>
-        <source>The store %1 can be read again, and is shown as it is.</source>
-        <translation>Kho %1 lại đọc được và được hiện nguyên trạng.</translation>
+        <source>It is shown here, but changes made here are not kept.</source>
+        <translation>Kho được hiện ở đây, nhưng các thay đổi ở đây không được giữ lại.</translation>
+    </message>
+    <message>
+        <source>It cannot be read here, and changes made here are not kept.</source>
+        <translation>Ở đây không đọc được kho, và các thay đổi ở đây không được giữ lại.</translation>
+    </message>
+    <message>
+        <source>The copy %1 cannot be read. It was kept as %2.</source>
+        <translation>Không đọc được bản sao %1. Bản sao được giữ lại với tên %2.</translation>
+    </message>
+    <message>
+        <source>The store %1 on the disk was another than what was shown here when something was changed. It was kept as %2, and a new one was begun.</source>
+        <translation>Kho %1 trên đĩa khác với kho hiện ở đây khi có thay đổi. Kho được giữ lại với tên %2 và một kho mới đã được bắt đầu.</translation>
+    </message>
+    <message>
+        <source>The store %1 is shown as it is on the disk now.</source>
+        <translation>Kho %1 được hiện như trên đĩa lúc này.</translation>
     </message>
 </context>
 </TS>

@@ -37,6 +37,17 @@ private slots:
     void heldAtStart_data();
     void heldAtStart();
     void unreadableAtStart();
+    void copyThatCannotBeRead_data();
+    void copyThatCannotBeRead();
+    void savedByAnotherMeanwhile();
+    void broughtBackMeanwhile();
+    void folderThatCannotBeLookedInto();
+    void damagedBeforeItCouldBeRead();
+    void journalWithoutAFile();
+    void removedAndClosed();
+    void lockOfAnotherProgram();
+    void olderTwice();
+    void secondStoreCannotRead();
     void journalInReadOnlyFolder();
     void fullDiskAtStart();
     void brokenOnAFullDisk();
@@ -379,58 +390,80 @@ void tst_StoreRobust::brokenInReadOnlyFolder()
 
 void tst_StoreRobust::heldAtStart_data()
 {
-    QTest::addColumn<bool>("hasCopy");
+    QTest::addColumn<int>("copy"); // 0 none, 1 older than the store, 2 the same
     QTest::addColumn<bool>("isEdited");
-    QTest::newRow("copy") << true << false;
-    QTest::newRow("no copy") << false << false;
-    QTest::newRow("copy, edited") << true << true;
-    QTest::newRow("no copy, edited") << false << true;
+    for (const int copy : {0, 1, 2}) {
+        for (const bool isEdited : {false, true})
+            QTest::addRow("copy %d, edited %d", copy, isEdited) << copy << isEdited;
+    }
 }
 
-/// What could not be read is never written over.
+/// What was not shown is never written over.
 void tst_StoreRobust::heldAtStart()
 {
-    QFETCH(bool, hasCopy);
+    QFETCH(int, copy);
     QFETCH(bool, isEdited);
+    const QString copyName = file() + QStringLiteral(".bak");
     makeStore();
-    if (!hasCopy)
-        QVERIFY(QFile::remove(file() + QStringLiteral(".bak")));
+    QVERIFY(QFile::copy(copyName, file() + QStringLiteral(".older")));
+    {
+        ProfileStore store(file());
+        assign(store, 3, 6);
+    }
+    if (copy < 2)
+        QVERIFY(QFile::remove(copyName));
+    if (copy == 1)
+        QVERIFY(QFile::rename(file() + QStringLiteral(".older"), copyName));
     std::unique_ptr<ProfileStore> store;
     {
         const Holder holder(file());
         QVERIFY(holder.isHolding());
         store = std::make_unique<ProfileStore>(file());
-        QCOMPARE(codeOf(*store, 1), hasCopy ? 4 : 255);
+        QCOMPARE(codeOf(*store, 1), copy > 0 ? 4 : 255);
+        QCOMPARE(codeOf(*store, 3), copy == 2 ? 6 : 255);
         store->setCurrentKey(Owner, 0, 9);
+        store->setMacroAssignLimit(7);
         if (isEdited)
             assign(*store, 2, 5);
         QVERIFY(!store->flush());
         QCOMPARE(store->messages(),
                  QStringList({QStringLiteral("Another program is using the store my.store. Changes "
                                              "are kept in memory and saved as soon as possible."),
-                              hasCopy ? QStringLiteral("The last good copy of it is shown until "
-                                                       "what it holds can be read.")
-                                      : QStringLiteral("What it holds is shown as soon as it can "
-                                                       "be read.")}));
+                              copy > 0 ? QStringLiteral("The last good copy of it is shown until "
+                                                        "what it holds can be read.")
+                                       : QStringLiteral("What it holds is shown as soon as it can "
+                                                        "be read.")}));
     }
     QSignalSpy replaced(store.get(), &ProfileStore::profileReplaced);
     QTRY_VERIFY(store->isSaved());
     QCoreApplication::processEvents();
-    QCOMPARE(codeOf(*store, 1), hasCopy || !isEdited ? 4 : 255);
-    QCOMPARE(codeOf(*store, 2), isEdited ? 5 : 255);
-    QCOMPARE(store->messages().contains(
-                 QStringLiteral("The store my.store can be read again, and is shown as it is.")),
-             !isEdited);
-    QCOMPARE(replaced.count(), isEdited ? 0 : 1);
-    QCOMPARE(store->stepNames().size(), (hasCopy || !isEdited ? 1 : 0) + (isEdited ? 1 : 0));
+    const bool isSame = copy == 2;
+    const bool isAside = isEdited && !isSame;
+    QStringList messages;
+    if (isSame)
+        messages << QStringLiteral("All changes are saved again.");
+    else if (!isEdited)
+        messages << QStringLiteral("The store my.store is shown as it is on the disk now.");
+    else
+        messages << QStringLiteral("The store my.store on the disk was another than what was shown "
+                                   "here when something was changed. It was kept as "
+                                   "my.store.unread-1, and a new one was begun.")
+                 << QStringLiteral("All changes are saved again.");
+    QCOMPARE(store->messages().mid(2), messages);
+    QCOMPARE(replaced.count(), isEdited || isSame ? 0 : 1);
+    const auto check = [&](const ProfileStore &shown) {
+        QCOMPARE(codeOf(shown, 1), isAside && copy == 0 ? 255 : 4);
+        QCOMPARE(codeOf(shown, 2), isEdited ? 5 : 255);
+        QCOMPARE(codeOf(shown, 3), isAside ? 255 : 6);
+        QCOMPARE(shown.macroAssignLimit(), 7);
+    };
+    check(*store);
     store.reset();
-    const ProfileStore again(file());
-    QCOMPARE(codeOf(again, 1), hasCopy || !isEdited ? 4 : 255);
-    QCOMPARE(codeOf(again, 2), isEdited ? 5 : 255);
+    check(ProfileStore(file()));
     const QString unread = file() + QStringLiteral(".unread-1");
-    QCOMPARE(QFile::exists(unread), isEdited);
-    if (isEdited)
-        QCOMPARE(codeOf(ProfileStore(unread), 1), 4);
+    QCOMPARE(QFile::exists(unread), isAside);
+    if (isAside)
+        QCOMPARE(codeOf(ProfileStore(unread), 3), 6);
 }
 
 void tst_StoreRobust::unreadableAtStart()
@@ -453,6 +486,237 @@ void tst_StoreRobust::unreadableAtStart()
     QTRY_COMPARE(codeOf(*store, 1), 4);
     assign(*store, 2, 5);
     checkReopened(std::move(store));
+#else
+    QSKIP("needs a second user");
+#endif
+}
+
+void tst_StoreRobust::copyThatCannotBeRead_data()
+{
+    QTest::addColumn<bool>("isMissing");
+    QTest::newRow("damaged store") << false;
+    QTest::newRow("missing store") << true;
+}
+
+/// The last thing that is left of the contents is kept.
+void tst_StoreRobust::copyThatCannotBeRead()
+{
+    QFETCH(bool, isMissing);
+    makeStore();
+    if (isMissing)
+        QVERIFY(QFile::remove(file()));
+    else
+        write(file(), "nonsense");
+    {
+        const Holder holder(file() + QStringLiteral(".bak"));
+        QVERIFY(holder.isHolding());
+        const ProfileStore store(file());
+        QCOMPARE(codeOf(store, 1), 255);
+        QCOMPARE(store.messages().first(),
+                 QStringLiteral("The copy my.store.bak cannot be read. It was kept as "
+                                "my.store.bak.unread-1."));
+    }
+    QCOMPARE(codeOf(ProfileStore(file() + QStringLiteral(".bak.unread-1")), 1), 4);
+}
+
+/// A store that could not be written at first, and was by somebody else.
+void tst_StoreRobust::savedByAnotherMeanwhile()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    letOthersRead();
+    std::unique_ptr<ProfileStore> guest;
+    {
+        const OrdinaryUser user;
+        guest = std::make_unique<ProfileStore>(file());
+    }
+    {
+        ProfileStore owner(file());
+        QVERIFY(!owner.isReadOnly());
+        assign(owner, 9, 9);
+    }
+    QTRY_VERIFY(guest->isSaved());
+    QCOMPARE(codeOf(*guest, 9), 9);
+    guest.reset();
+    QCOMPARE(codeOf(ProfileStore(file()), 9), 9);
+#else
+    QSKIP("needs a second user");
+#endif
+}
+
+/// A file that was damaged, or missing, and is there again before anything could be saved.
+void tst_StoreRobust::broughtBackMeanwhile()
+{
+#ifdef Q_OS_LINUX
+    const QString good = m_folder->filePath(QStringLiteral("good"));
+    {
+        ProfileStore store(good);
+        assign(store, 1, 9);
+    }
+    makeStore();
+    write(file(), "nonsense");
+    letOthersRead();
+    std::unique_ptr<ProfileStore> store;
+    {
+        const OrdinaryUser user;
+        store = std::make_unique<ProfileStore>(file());
+        QCOMPARE(codeOf(*store, 1), 4);
+    }
+    QVERIFY(QFile::remove(file()));
+    QVERIFY(QFile::rename(good, file()));
+    QTRY_VERIFY(store->isSaved());
+    QCOMPARE(codeOf(*store, 1), 9);
+    store.reset();
+    QCOMPARE(codeOf(ProfileStore(file()), 1), 9);
+#else
+    QSKIP("needs a second user");
+#endif
+}
+
+void tst_StoreRobust::folderThatCannotBeLookedInto()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    QVERIFY(QFile::remove(file()));
+    QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7000));
+    std::unique_ptr<ProfileStore> store;
+    {
+        const OrdinaryUser user;
+        store = std::make_unique<ProfileStore>(file());
+        QCOMPARE(codeOf(*store, 1), 255);
+    }
+    QTRY_VERIFY(store->isSaved());
+    QCOMPARE(codeOf(*store, 1), 4);
+    QCOMPARE(store->messages().last(),
+             QStringLiteral("The store my.store was missing. The last good copy of it is used."));
+#else
+    QSKIP("needs a second user");
+#endif
+}
+
+void tst_StoreRobust::damagedBeforeItCouldBeRead()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    write(file(), "nonsense");
+    letOthersRead();
+    QFile::setPermissions(file(), QFile::ReadOwner | QFile::WriteOwner);
+    std::unique_ptr<ProfileStore> store;
+    {
+        const OrdinaryUser user;
+        store = std::make_unique<ProfileStore>(file());
+        assign(*store, 2, 5);
+        QVERIFY(!store->flush());
+    }
+    QVERIFY(store->flush());
+    QCOMPARE(store->messages().mid(2),
+             QStringList(
+                 {QString::fromLatin1(Damaged), QStringLiteral("All changes are saved again.")}));
+    QCOMPARE(read(file() + QStringLiteral(".broken-1")), QByteArray("nonsense"));
+    checkReopened(std::move(store));
+#else
+    QSKIP("needs a second user");
+#endif
+}
+
+/// The journal of a file that is gone is not played on the copy that takes its place.
+void tst_StoreRobust::journalWithoutAFile()
+{
+    makeStore();
+    QByteArray journal;
+    {
+        ProfileStore store(file());
+        for (int i = 0; i < KeyCount; ++i) {
+            assign(store, i, ushort(30 + i));
+            store.flush();
+        }
+        journal = read(file() + QStringLiteral("-wal"));
+        QVERIFY(!journal.isEmpty());
+    }
+    makeStore(); // key 1 on 4 again, in the copy too
+    QVERIFY(QFile::remove(file()));
+    write(file() + QStringLiteral("-wal"), journal);
+    const ProfileStore store(file());
+    QCOMPARE(store.messages(),
+             QStringList(QStringLiteral(
+                 "The store my.store was missing. The last good copy of it is used.")));
+    QCOMPARE(codeOf(store, 1), 4);
+    QVERIFY(store.isSaved());
+    QCOMPARE(read(file() + QStringLiteral(".missing-1-wal")), journal);
+}
+
+void tst_StoreRobust::removedAndClosed()
+{
+    {
+        ProfileStore store(file());
+        assign(store, 1, 4);
+        assign(store, 2, 5);
+        QVERIFY(store.flush());
+        QVERIFY(QFile::remove(file()));
+    }
+    const ProfileStore again(file());
+    QCOMPARE(again.messages(), QStringList());
+    QCOMPARE(codeOf(again, 1), 4);
+    QCOMPARE(codeOf(again, 2), 5);
+}
+
+/// The folder was made anew by another window, which has the store now.
+void tst_StoreRobust::lockOfAnotherProgram()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    ProfileStore store(file());
+    const QString lock = file() + QStringLiteral(".lock");
+    const QByteArray own = read(lock);
+    QVERIFY(own.startsWith(QByteArray::number(QCoreApplication::applicationPid()) + '\n'));
+    QVERIFY(QFile::remove(lock));
+    // the parent of this process lives as long as it does
+    const QString parent = QStringLiteral("/proc/%1/exe").arg(::getppid());
+    QList<QByteArray> lines = own.split('\n');
+    lines[0] = QByteArray::number(::getppid());
+    lines[1] = QFileInfo(QFile::symLinkTarget(parent)).fileName().toUtf8();
+    write(lock, lines.join('\n'));
+    const QByteArray others("another's");
+    QVERIFY(QFile::remove(file()));
+    write(file(), others);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("our own lock file")));
+    assign(store, 2, 5);
+    QVERIFY(!store.flush());
+    QCOMPARE(read(file()), others);
+    QVERIFY(QFile::remove(lock));
+    QVERIFY(store.flush());
+    QCOMPARE(read(file() + QStringLiteral(".replaced-1")), others);
+#else
+    QSKIP("needs to know other processes");
+#endif
+}
+
+void tst_StoreRobust::olderTwice()
+{
+    const QString older = QFINDTESTDATA("data/store-v1.sqlite");
+    for (const char *kept : {".v1", ".v1-2"}) {
+        QFile::remove(file());
+        QVERIFY(QFile::copy(older, file()));
+        QFile::setPermissions(file(), QFile::ReadOwner | QFile::WriteOwner);
+        const ProfileStore store(file());
+        QCOMPARE(read(file() + QLatin1String(kept)).isEmpty(), false);
+        QVERIFY(store.messages().first().contains(QLatin1String(kept)));
+    }
+}
+
+void tst_StoreRobust::secondStoreCannotRead()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7077));
+    ProfileStore first(file());
+    QFile::setPermissions(file(), QFile::Permissions());
+    const OrdinaryUser user;
+    const ProfileStore store(file());
+    QVERIFY(store.isReadOnly());
+    QCOMPARE(store.messages(),
+             QStringList(QStringLiteral("Another window has the store my.store open. It cannot be "
+                                        "read here, and changes made here are not kept.")));
 #else
     QSKIP("needs a second user");
 #endif

@@ -615,7 +615,9 @@ std::pair<QString, bool> ProfileStore::macroPlaying(int owner, const QString &wa
         other.code = 0;
         return other == macro;
     };
-    const QStringList candidates = QStringList(wanted) + m_state.macroNames(owner);
+    QStringList candidates = m_state.macroNames(owner);
+    if (candidates.removeOne(wanted))
+        candidates.prepend(wanted);
     const auto same = std::find_if(candidates.begin(), candidates.end(), plays);
     if (same != candidates.end())
         return {*same, false};

@@ -141,7 +141,7 @@ public:
     bool removeMacro(int owner, const QString &name);
     bool moveMacro(int owner, int from, int to);
     /// For a key that is to play `record`, whatever its code: the macro of the wanted name when it
-    /// plays that (also none, for a record without events), else another one that does, else one
+    /// plays that, else another one that does, else one
     /// that is added under a free name. `second` is true for one that was added.
     std::pair<QString, bool> macroPlaying(int owner, const QString &wanted,
                                           const vantrix_macro_record &record);

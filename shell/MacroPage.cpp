@@ -16,6 +16,7 @@
 #include <QTreeWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -47,6 +48,7 @@ MacroPage::MacroPage(ShellContext &context, QWidget *parent) : QWidget(parent), 
     connect(&context.store(), &ProfileStore::profileChanged, this, &MacroPage::onKeysChanged);
     connect(&context.store(), &ProfileStore::profileListChanged, this, &MacroPage::onKeysChanged);
     connect(&context, &ShellContext::newMacroRequested, this, &MacroPage::beginForKey);
+    connect(&context, &ShellContext::leaving, this, &MacroPage::endForKey);
     connect(&context, &ShellContext::pageShown, this, [this](ShellPage page) {
         if (page != ShellPage::Macros)
             endForKey();
@@ -361,6 +363,8 @@ void MacroPage::deleteMacro()
         emit m_context.macroAboutToBeRemoved(name);
         store.removeMacro(m_context.owner(), name);
     }
+    if (m_begun == name)
+        m_begun.clear();
     m_current = names.value(place + 1 < names.size() ? place + 1 : place - 1);
     m_editor->say({});
     refresh();
@@ -399,8 +403,9 @@ void MacroPage::endForKey()
     m_editor->stopRecording();
     m_backBtn->hide();
     if (isBegunEmpty()) {
-        m_current = m_begun;
+        const QString chosen = std::exchange(m_current, m_begun);
         deleteMacro();
+        selectMacro(chosen);
         emit m_context.status(tr("The new macro was empty and was not kept."));
     }
     m_begun.clear();

@@ -511,6 +511,7 @@ void MainWindow::onSettingChanged(const QString &name)
 
 void MainWindow::remember()
 {
+    emit m_context.leaving();
     ProfileStore &store = m_context.store();
     store.setSetting(geometryKey(), QString::fromLatin1(saveGeometry().toBase64()));
     store.flush();

@@ -113,7 +113,8 @@ bool SettingsDlg::checkPath(QLineEdit *edit, const QString &shown, bool isFolder
 {
     const QString path = edit->text().trimmed();
     const QFileInfo info(path);
-    if (path.isEmpty() || path == shown || (isFolder ? info.isDir() : info.exists()))
+    if (path.isEmpty() || path == shown ||
+        (isFolder ? info.isDir() : info.isFile() || info.isBundle()))
         return true;
     m_message->setText(
         (isFolder ? tr("There is no folder %1.") : tr("There is no program %1.")).arg(path));

@@ -68,6 +68,8 @@ signals:
 
     /// The window has turned to that page.
     void pageShown(ShellPage page);
+    /// The window is about to be closed, or to be made anew.
+    void leaving();
 
     /// The device has taken the shown profile.
     void applied();

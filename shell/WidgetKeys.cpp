@@ -1,15 +1,19 @@
 #include "shell/WidgetKeys.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QWidget>
 
-WidgetKeys::WidgetKeys(QWidget *widget) : QObject(widget)
+WidgetKeys::WidgetKeys(QWidget *widget) : QObject(widget), m_widget(widget)
 {
     widget->installEventFilter(this);
 }
 
 bool WidgetKeys::eventFilter(QObject *, QEvent *event)
 {
+    const QWidget *const focus = QApplication::focusWidget();
+    if (focus && focus != m_widget && m_widget->isAncestorOf(focus))
+        return false; // an editor in it has no use for the key
     const bool isPress = event->type() == QEvent::KeyPress;
     if (!isPress && event->type() != QEvent::ShortcutOverride)
         return false;

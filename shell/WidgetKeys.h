@@ -23,5 +23,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    QWidget *m_widget;
     std::map<int, std::function<void()>> m_actions;
 };

@@ -150,6 +150,7 @@ void tst_ChangesPage::putsAMacroBack_data()
     QTest::newRow("renamed, another on the key")
         << list("rename unassign") << "Hello" << list("Hello");
     QTest::newRow("renamed and edited") << list("rename edit") << "Greet" << list("Hello Greet");
+    QTest::newRow("empty, deleted") << list("empty apply delete") << "Greet" << list("Greet");
     QTest::newRow("not touched") << list("unassign") << "Greet" << list("Greet");
 }
 
@@ -174,6 +175,10 @@ void tst_ChangesPage::putsAMacroBack()
     for (const QString &edit : qAsConst(edits)) {
         if (edit == QLatin1String("edit"))
             store.setMacro(Owner, current, other);
+        else if (edit == QLatin1String("empty"))
+            store.setMacro(Owner, current, played = vantrix_macro_record());
+        else if (edit == QLatin1String("apply"))
+            m_shell->apply();
         else if (edit == QLatin1String("delete"))
             store.removeMacro(Owner, current);
         else if (edit == QLatin1String("unassign"))

@@ -68,6 +68,10 @@ private slots:
     void beginForAKeyAndBackWithNothing();
     void leftByATabWithNothing();
     void begunTwiceForAKey();
+    void begunAndDeleted();
+    void begunAndAnotherChosen();
+    void begunAndLeft();
+    void keysOfANameEditor();
     void anyOrderOfGestures_data();
     void anyOrderOfGestures();
     void foreignBytesStay();
@@ -747,6 +751,49 @@ void tst_MacroPage::begunTwiceForAKey()
     QVERIFY(child<QPushButton>("m_backBtn")->isVisible());
     emit m_shell->context.pageShown(ShellPage::Mapping);
     QCOMPARE(names(), QStringList(QStringLiteral("Macro")));
+}
+
+void tst_MacroPage::begunAndDeleted()
+{
+    emit m_shell->context.newMacroRequested();
+    click("m_deleteBtn");
+    click("m_newBtn");
+    emit m_shell->context.pageShown(ShellPage::History);
+    QCOMPARE(names(), QStringList(QStringLiteral("Macro")));
+}
+
+void tst_MacroPage::begunAndAnotherChosen()
+{
+    for (const char *const name : {"A", "B", "C"})
+        add(name, Four);
+    emit m_shell->context.newMacroRequested();
+    m_page->selectMacro(QStringLiteral("A"));
+    emit m_shell->context.pageShown(ShellPage::History);
+    QCOMPARE(names().size(), 3);
+    QCOMPARE(m_page->currentMacro(), QStringLiteral("A"));
+}
+
+void tst_MacroPage::begunAndLeft()
+{
+    emit m_shell->context.newMacroRequested();
+    emit m_shell->context.leaving();
+    QVERIFY(names().isEmpty());
+}
+
+/// Keys that an editor in the list has no use for do not act on the list.
+void tst_MacroPage::keysOfANameEditor()
+{
+    for (const char *const name : {"A", "B"})
+        add(name, Four);
+    m_page->selectMacro(QStringLiteral("A"));
+    list()->setFocus();
+    pressKey(list(), Qt::Key_F2);
+    auto *const editor = list()->findChild<QLineEdit *>();
+    QVERIFY(editor);
+    editor->setText(QStringLiteral("New"));
+    QTest::keyClick(editor, Qt::Key_Down, Qt::AltModifier);
+    pressKey(editor, Qt::Key_Return);
+    QTRY_COMPARE(names(), QStringList({QStringLiteral("New"), QStringLiteral("B")}));
 }
 
 void tst_MacroPage::anyOrderOfGestures_data()

@@ -152,6 +152,9 @@ void tst_SettingsDlg::wrongPathsAreTold()
     dialog.accept();
     QCOMPARE(message->text(), QStringLiteral("There is no program /no/program."));
     QVERIFY(!shell.store().hasAppPath(2));
+    child<QLineEdit>(&dialog, "m_app2")->setText(shell.folder.path()); // is none either
+    dialog.accept();
+    QVERIFY(!shell.store().hasAppPath(2));
     child<QLineEdit>(&dialog, "m_app2")->clear();
     dialog.accept();
     QCOMPARE(dialog.result(), int(QDialog::Accepted));

@@ -88,12 +88,12 @@ bool operator==(const DeviceKey &a, const DeviceKey &b)
     return a.content == b.content && a.sequence == b.sequence;
 }
 
-bool actAlike(const DeviceKey &a, const DeviceKey &b)
+bool actAlike(int keyIdx, const DeviceKey &a, const DeviceKey &b)
 {
-    KeyContent content = a.content;
+    KeyContent content = actingKey(keyIdx, a.content);
     if (content.macroName && b.content.macroName)
         content.macroName = b.content.macroName;
-    return content == b.content && a.sequence == b.sequence;
+    return content == actingKey(keyIdx, b.content) && a.sequence == b.sequence;
 }
 
 bool operator==(const DeviceImage &a, const DeviceImage &b)
@@ -103,9 +103,11 @@ bool operator==(const DeviceImage &a, const DeviceImage &b)
 
 bool actAlike(const DeviceImage &a, const DeviceImage &b)
 {
-    return std::equal(
-        a.keys.begin(), a.keys.end(), b.keys.begin(),
-        [](const DeviceKey &one, const DeviceKey &other) { return actAlike(one, other); });
+    int keyIdx = 0;
+    return std::equal(a.keys.begin(), a.keys.end(), b.keys.begin(),
+                      [&keyIdx](const DeviceKey &one, const DeviceKey &other) {
+                          return actAlike(keyIdx++, one, other);
+                      });
 }
 
 vantrix_macro_record chordRecord(const std::vector<ushort> &codes, ushort recordCode)
@@ -237,7 +239,7 @@ std::vector<DeviceDifference> differences(const DeviceImage &before, const Devic
     for (int i = 0; i < KeyCount; ++i) {
         const DeviceKey &old = before.keys[std::size_t(i)];
         const DeviceKey &now = after.keys[std::size_t(i)];
-        if (actAlike(old, now))
+        if (actAlike(i, old, now))
             continue;
         DeviceDifference difference{i, old, now, KeyText::functionName(i, old.content),
                                     KeyText::functionName(i, now.content)};

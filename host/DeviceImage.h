@@ -22,8 +22,9 @@ inline bool operator!=(const DeviceKey &a, const DeviceKey &b)
     return !(a == b);
 }
 
-/// Whether the device does the same for both: the name of a macro does not matter, its events do.
-bool actAlike(const DeviceKey &a, const DeviceKey &b);
+/// Whether the device does the same for both: the name of a macro does not matter, its events do,
+/// and a key that has its own code assigned is like one without an assignment.
+bool actAlike(int keyIdx, const DeviceKey &a, const DeviceKey &b);
 
 /// The complete image of a profile, all that a device needs to act by itself. A plain value.
 struct DeviceImage

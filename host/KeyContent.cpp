@@ -1,5 +1,7 @@
 #include "host/KeyContent.h"
 
+#include "vocabulary/KeyCodes.h"
+
 namespace {
 
 constexpr int BacklightKey = 21;
@@ -31,4 +33,12 @@ ProfileKeys freshKeys()
     for (int i = 0; i < KeyCount; ++i)
         keys[std::size_t(i)] = freshKey(i);
     return keys;
+}
+
+KeyContent actingKey(int keyIdx, KeyContent key)
+{
+    const bool hasExtra = key.app || key.hotKey || key.shortcut || key.extended || key.macroName;
+    if (!hasExtra && !isDualAction(key.mapping) && effectiveCode(key.mapping) == UnassignedCode)
+        key.mapping = plainKey(defaultCodeOfKey(keyIdx));
+    return key;
 }

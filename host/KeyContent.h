@@ -28,6 +28,9 @@ inline bool operator!=(const KeyContent &a, const KeyContent &b)
 vantrix_key_mapping freshMapping(int keyIdx);
 KeyContent freshKey(int keyIdx);
 
+/// A key as it acts: without an assignment it sends its own code, as if that were assigned.
+KeyContent actingKey(int keyIdx, KeyContent key);
+
 /// All keys of a profile.
 using ProfileKeys = std::array<KeyContent, KeyCount>;
 ProfileKeys freshKeys();

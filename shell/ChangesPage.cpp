@@ -206,13 +206,16 @@ void ChangesPage::putBack(const QList<QTreeWidgetItem *> &items)
     const DeviceImage image = m_context.device().image(m_context.owner(), m_context.profile());
     const QString name = items.size() == 1 ? tr("Put back key %1").arg(keyOf(items.first()))
                                            : tr("Put back %1 keys").arg(items.size());
-    const StoreStepScope step(store, name);
     QStringList macros;
-    for (const QTreeWidgetItem *item : items)
-        macros << image.putBack(keyOf(item), store);
-    macros.removeAll(QString());
-    for (const QString &macro : qAsConst(macros))
-        emit m_context.macroAdded(macro);
+    {
+        const StoreStepScope step(store, name);
+        for (const QTreeWidgetItem *item : items)
+            macros << image.putBack(keyOf(item), store);
+        macros.removeAll(QString());
+        for (const QString &macro : qAsConst(macros))
+            emit m_context.macroAdded(macro);
+    }
+    store.flush(); // what it says of the step is not the last word
     if (!macros.isEmpty())
         emit m_context.status(
             tr("Back from the device, as a macro: %1").arg(macros.join(tr(", "))));

@@ -58,6 +58,10 @@ ExportDlg::ExportDlg(ShellContext &context, QWidget *parent)
     for (QPushButton *const button : {all, none, cancel})
         button->setAutoDefault(false);
     m_exportBtn->setDefault(true);
+    setTabOrder(all, none);
+    setTabOrder(none, m_list);
+    setTabOrder(m_list, cancel);
+    setTabOrder(cancel, m_exportBtn);
 
     fill();
     connect(m_list, &QListWidget::itemChanged, this, &ExportDlg::showState);

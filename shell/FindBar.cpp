@@ -29,6 +29,7 @@ FindBar::FindBar(ShellContext &context, QWidget *parent)
     m_field->setPlaceholderText(tr("Find a function, key or macro"));
     m_field->setAccessibleName(tr("Find"));
     m_field->setClearButtonEnabled(true);
+    m_field->setAcceptDrops(false); // a file is none that can be found
     m_field->setMinimumWidth(80);
     m_field->installEventFilter(this);
     setFocusProxy(m_field);

@@ -59,6 +59,11 @@ void HistoryPage::refresh()
             m_list->setCurrentItem(item);
         }
     }
+    if (position > MaxListed) {
+        auto *const earlier = new QListWidgetItem(
+            tr("Earlier steps are listed when you go back to the oldest one here."), m_list);
+        earlier->setFlags(Qt::NoItemFlags);
+    }
 }
 
 void HistoryPage::onActivated(const QListWidgetItem *item)

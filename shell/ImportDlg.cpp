@@ -77,6 +77,7 @@ ImportDlg::ImportDlg(ShellContext &context, QWidget *parent)
     layout->addLayout(end);
     m_importBtn->setDefault(true);
     open->setFocus(); // nothing else can be done first
+    setTabOrder(open, m_list);
     m_cancelBtn->setAutoDefault(false);
 
     connect(open, &QPushButton::clicked, this, &ImportDlg::chooseFile);
@@ -129,6 +130,7 @@ void ImportDlg::fill()
     const StoreState &state = m_context.store().state();
     // a single profile goes in place of the one that is shown, several where they came from
     const bool isOne = m_content.profiles.size() == 1;
+    QWidget *last = m_list;
     for (const ExchangeContent::Profile &profile : m_content.profiles) {
         auto *const item = new QTreeWidgetItem(m_list);
         const QString number = tr("PROFILE %1").arg(profile.profile + 1);
@@ -145,7 +147,11 @@ void ImportDlg::fill()
         connect(target, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 &ImportDlg::showState);
         m_list->setItemWidget(item, TargetColumn, target);
+        setTabOrder(last, target);
+        last = target;
     }
+    setTabOrder(last, m_cancelBtn);
+    setTabOrder(m_cancelBtn, m_importBtn);
 }
 
 void ImportDlg::say(const QString &text, bool isTrouble)

@@ -358,7 +358,7 @@ void MacroEditor::onRecorded()
 {
     m_recordPad->setText(tr("RECORDING: %1 of %2 events\nPress keys. To finish, press Esc twice or "
                             "click STOP.")
-                             .arg(m_recorder->eventCount())
+                             .arg(m_model->rowCount() + m_recorder->eventCount())
                              .arg(int(vantrix_macro_record::MaxEvents)));
 }
 

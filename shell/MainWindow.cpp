@@ -252,6 +252,9 @@ void MainWindow::connectContext()
             emit m_context.keysWanted();
     });
     connect(&m_context, &ShellContext::profileShown, this, [this](int profile) {
+        // what was said was said of another one
+        if (profile != std::exchange(m_profileOfStatus, profile) && !m_isNews)
+            say(QString());
         m_context.store().setSetting(profileKey(), QString::number(profile));
     });
     connect(&m_context, &ShellContext::keysWanted, this, [this] {
@@ -277,8 +280,10 @@ void MainWindow::connectContext()
     connect(&store, &ProfileStore::settingChanged, this, &MainWindow::onSettingChanged);
     connect(&store, &ProfileStore::viewChanged, this, &MainWindow::sayWhoHasTheKeyboard);
     connect(&m_context, &ShellContext::profileShown, this, &MainWindow::sayWhoHasTheKeyboard);
-    connect(&m_context.services().keyCapture(), &HostKeyCapture::capturingChanged, this,
-            &MainWindow::sayWhoHasTheKeyboard);
+    connect(&m_context.services().keyCapture(), &HostKeyCapture::capturingChanged, this, [this] {
+        sayWhoHasTheKeyboard();
+        updateSteps();
+    });
     for (const QString &text : store.messages())
         m_messages->add(text);
     connect(&store, &ProfileStore::message, m_messages, &MessageBar::add);
@@ -333,9 +338,7 @@ void MainWindow::sayWhoHasTheKeyboard()
     const bool wasSaid = isHintSaid();
     const int key = m_context.store().getCurrentKey(m_context.owner(), m_context.profile());
     m_captureHint.clear();
-    // not while a macro is recorded
-    const QWidget *const capturing = m_context.services().keyCapture().capturing();
-    if (key < KeyCount && capturing && m_mapping->isAncestorOf(capturing))
+    if (key < KeyCount && m_context.services().keyCapture().capturing() && !isRecording())
         m_captureHint = tr("%1 takes the next key you press. Ctrl+K, with no key selected, "
                            "switches that off.")
                             .arg(KeyTitle::withLegend(key));
@@ -343,6 +346,13 @@ void MainWindow::sayWhoHasTheKeyboard()
         m_status->setText(m_captureHint);
     else if (wasSaid)
         say(lastStep() == m_stepOfStatus ? QString() : m_context.store().undoName());
+}
+
+/// The other pages take keys for macros.
+bool MainWindow::isRecording() const
+{
+    const QWidget *const capturing = m_context.services().keyCapture().capturing();
+    return capturing && !m_mapping->isAncestorOf(capturing);
 }
 
 bool MainWindow::isHintSaid() const
@@ -407,9 +417,14 @@ void MainWindow::redo()
 void MainWindow::travelTo(int position)
 {
     ProfileStore &store = m_context.store();
-    const bool isBack = position < store.stepPosition();
+    const int before = store.stepPosition();
     const int shown = m_mapping->showCount();
-    follow(store.travelTo(position), isBack ? tr("Undone: %1") : tr("Done again: %1"), shown);
+    follow(store.travelTo(position), position < before ? tr("Undone: %1") : tr("Done again: %1"),
+           shown);
+    const int steps = store.stepPosition() - before;
+    if (qAbs(steps) > 1)
+        emit m_context.status(
+            (steps < 0 ? tr("Steps undone: %1") : tr("Steps done again: %1")).arg(qAbs(steps)));
 }
 
 /// `shown` is the number of showings before the step: one that changed keys has been shown
@@ -430,8 +445,9 @@ void MainWindow::follow(const std::optional<StepOutcome> &outcome, const QString
 void MainWindow::updateSteps()
 {
     const ProfileStore &store = m_context.store();
-    m_undo->setEnabled(store.canUndo());
-    m_redo->setEnabled(store.canRedo());
+    // a step back would take away what a macro is being recorded into
+    m_undo->setEnabled(store.canUndo() && !isRecording());
+    m_redo->setEnabled(store.canRedo() && !isRecording());
     m_undo->setText(store.canUndo() ? tr("&Undo %1").arg(Common::ButtonText(store.undoName()))
                                     : tr("&Undo"));
     m_redo->setText(store.canRedo() ? tr("&Redo %1").arg(Common::ButtonText(store.redoName()))

@@ -61,6 +61,7 @@ private:
     void sayWhatIsPending();
     void sayWhoHasTheKeyboard();
     bool isHintSaid() const;
+    bool isRecording() const;
     void arrange();
     void follow(const std::optional<StepOutcome> &outcome, const QString &text, int shown);
     void updateSteps();
@@ -86,6 +87,7 @@ private:
     QLabel *m_applied = nullptr;
     QLabel *m_saved = nullptr;
     std::pair<int, QString> m_stepOfStatus; ///< last step when the status was said
+    int m_profileOfStatus = -1;
     QString m_captureHint;
     bool m_isNews = false; ///< the status tells what the last deed led to
     ShellPage m_page = ShellPage::Mapping;

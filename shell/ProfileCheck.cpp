@@ -20,15 +20,13 @@ std::vector<KeyPlace> placesOf(int profile, const std::vector<int> &keys)
 }
 
 /// What a key does, such that equal functions are equal values; nothing for a disabled key.
-std::optional<KeyContent> functionOf(int keyIdx, KeyContent key)
+std::optional<KeyContent> functionOf(int keyIdx, const KeyContent &content)
 {
-    if (KeyText::inputType(keyIdx, key) == InputType::Disabled)
+    if (KeyText::inputType(keyIdx, content) == InputType::Disabled)
         return std::nullopt;
-    const bool hasExtra = key.app || key.hotKey || key.shortcut || key.extended || key.macroName;
-    if (hasExtra)
+    KeyContent key = actingKey(keyIdx, content);
+    if (key.app || key.hotKey || key.shortcut || key.extended || key.macroName)
         key.mapping = clearedKey();
-    else if (effectiveCode(key.mapping) == UnassignedCode && !isDualAction(key.mapping))
-        key.mapping = plainKey(defaultCodeOfKey(keyIdx));
     if (key.app)
         key.app->macro = vantrix_macro_record();
     return key;

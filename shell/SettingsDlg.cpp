@@ -100,6 +100,7 @@ void SettingsDlg::addPathRow(QFormLayout *form, const QString &title, QLineEdit 
     layout->addWidget(button);
     form->addRow(title, row);
     qobject_cast<QLabel *>(form->labelForField(row))->setBuddy(edit);
+    edit->setAcceptDrops(false); // a file comes as an address, which is no path
     m_stops << edit << button;
     connect(button, &QPushButton::clicked, edit, [edit, browse] {
         const QString path = browse();

@@ -113,6 +113,7 @@ QString ShellStyle::panelSheet()
                "QListView,QTreeView,QTableView{background:%5;border:1px solid %2;"
                "border-radius:4px;outline:none;}"
                "QListView:focus,QTreeView:focus,QTableView:focus{border-color:%3;}"
+               "QTableCornerButton::section{background:%1;border:none;}"
                "QHeaderView::section{background:%1;color:%6;border:none;padding:4px 6px;}"
                "QListView::indicator,QTreeView::indicator{width:14px;height:14px;"
                "background:%5;border:1px solid %6;border-radius:3px;}"

@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   （当前）</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>返回到此处最早的步骤后，会列出更早的步骤。</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Nothing to redo</source>
         <translation>没有可恢复的操作</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>已撤消的步骤：%1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>已恢复的步骤：%1</translation>
     </message>
 </context>
 <context>

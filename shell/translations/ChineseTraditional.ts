@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   （目前）</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>返回到此處最早的步驟後，會列出更早的步驟。</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Nothing to redo</source>
         <translation>沒有可重做的操作</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>已復原的步驟：%1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>已重做的步驟：%1</translation>
     </message>
 </context>
 <context>

@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   (maintenant)</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>Les étapes antérieures s’affichent quand vous revenez à la plus ancienne d’ici.</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Appuyez sur des touches. Pour finir, appuyez deux fois sur Échap ou cliquez sur
     <message>
         <source>Nothing to redo</source>
         <translation>Rien à rétablir</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>Étapes annulées : %1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>Étapes rétablies : %1</translation>
     </message>
 </context>
 <context>

@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   (jetzt)</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>Frühere Schritte werden aufgeführt, wenn Sie zum ältesten hier zurückgehen.</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Drücken Sie Tasten. Zum Beenden zweimal Esc drücken oder auf STOPP klicken.</t
     <message>
         <source>Nothing to redo</source>
         <translation>Nichts zu wiederholen</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>Schritte rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>Schritte wiederholt: %1</translation>
     </message>
 </context>
 <context>

@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   (ora)</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>I passi precedenti appaiono quando torni al più vecchio di questi.</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Premi i tasti. Per finire, premi due volte Esc o fai clic su FERMA.</translation
     <message>
         <source>Nothing to redo</source>
         <translation>Niente da ripetere</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>Passi annullati: %1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>Passi ripetuti: %1</translation>
     </message>
 </context>
 <context>

@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   （現在）</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>それより前のステップは、ここで最も古いものに戻ると表示されます。</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Nothing to redo</source>
         <translation>やり直すものはありません</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>元に戻したステップ：%1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>やり直したステップ：%1</translation>
     </message>
 </context>
 <context>

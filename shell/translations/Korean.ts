@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   (현재)</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>이전 단계는 여기서 가장 오래된 단계로 돌아가면 표시됩니다.</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Nothing to redo</source>
         <translation>다시 실행할 것이 없음</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>실행 취소한 단계: %1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>다시 실행한 단계: %1</translation>
     </message>
 </context>
 <context>

@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   (kini)</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>Langkah terdahulu disenaraikan apabila anda kembali ke yang paling lama di sini.</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Tekan kekunci. Untuk tamat, tekan Esc dua kali atau klik HENTI.</translation>
     <message>
         <source>Nothing to redo</source>
         <translation>Tiada apa untuk dibuat semula</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>Langkah dibuat asal: %1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>Langkah dibuat semula: %1</translation>
     </message>
 </context>
 <context>

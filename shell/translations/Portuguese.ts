@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   (agora)</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>Os passos anteriores aparecem quando voltar ao mais antigo daqui.</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Prima teclas. Para terminar, prima Esc duas vezes ou clique em PARAR.</translati
     <message>
         <source>Nothing to redo</source>
         <translation>Nada para refazer</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>Passos anulados: %1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>Passos refeitos: %1</translation>
     </message>
 </context>
 <context>

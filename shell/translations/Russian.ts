@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   (сейчас)</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>Более ранние шаги появятся, если вернуться к самому старому из этих.</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Nothing to redo</source>
         <translation>Нечего повторять</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>Отменено шагов: %1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>Повторено шагов: %1</translation>
     </message>
 </context>
 <context>

@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   (ahora)</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>Los pasos anteriores aparecen al volver al más antiguo de aquí.</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Pulse teclas. Para terminar, pulse Esc dos veces o haga clic en DETENER.</transl
     <message>
         <source>Nothing to redo</source>
         <translation>Nada que rehacer</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>Pasos deshechos: %1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>Pasos rehechos: %1</translation>
     </message>
 </context>
 <context>

@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   (ขณะนี้)</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>ขั้นตอนก่อนหน้าจะแสดงเมื่อคุณกลับไปยังขั้นตอนเก่าที่สุดที่นี่</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Press keys. To finish, press Esc twice or click STOP.</source>
     <message>
         <source>Nothing to redo</source>
         <translation>ไม่มีอะไรให้ทำซ้ำ</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>ขั้นตอนที่เลิกทำ: %1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>ขั้นตอนที่ทำซ้ำ: %1</translation>
     </message>
 </context>
 <context>

@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   (şimdi)</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>Daha önceki adımlar, buradaki en eskiye dönünce listelenir.</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Tuşlara basın. Bitirmek için iki kez Esc’e basın veya DURDUR’u tıklayı
     <message>
         <source>Nothing to redo</source>
         <translation>Yinelenecek bir şey yok</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>Geri alınan adımlar: %1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>Yinelenen adımlar: %1</translation>
     </message>
 </context>
 <context>

@@ -286,6 +286,10 @@
         <source>%1   (now)</source>
         <translation>%1   (hiện tại)</translation>
     </message>
+    <message>
+        <source>Earlier steps are listed when you go back to the oldest one here.</source>
+        <translation>Các bước trước đó sẽ hiện khi bạn quay về bước cũ nhất ở đây.</translation>
+    </message>
 </context>
 <context>
     <name>ImportDlg</name>
@@ -882,6 +886,14 @@ Hãy nhấn các phím. Để kết thúc, nhấn Esc hai lần hoặc nhấp v�
     <message>
         <source>Nothing to redo</source>
         <translation>Không có gì để làm lại</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>Số bước đã hoàn tác: %1</translation>
+    </message>
+    <message>
+        <source>Steps done again: %1</source>
+        <translation>Số bước đã làm lại: %1</translation>
     </message>
 </context>
 <context>

@@ -20,6 +20,7 @@ private slots:
     void macroEditIsADifference();
     void namesDoNotMatter();
     void nameOfMacroDoesNotMatter();
+    void ownCodeIsNoDifference();
     void functionNames_data();
     void functionNames();
 };
@@ -228,6 +229,25 @@ void tst_DeviceImage::nameOfMacroDoesNotMatter()
     QVERIFY(differences(before, renamed).empty());
     store.delNamedMacroKey(Owner, 2, 7);
     QVERIFY(!actAlike(before, DeviceImage::of(store.state(), Owner, 2)));
+}
+
+/// A key that gets its own letter does what it did without.
+void tst_DeviceImage::ownCodeIsNoDifference()
+{
+    ProfileStore store{QString()};
+    const DeviceImage before = DeviceImage::of(store.state(), Owner, 0);
+    const vantrix_key_mapping w = plainKey(26); // W, as printed on key 7
+    store.setKeyMapping(Owner, 0, 7, &w);
+    QVERIFY(actAlike(before, DeviceImage::of(store.state(), Owner, 0)));
+    QVERIFY(actAlike(DeviceImage::of(store.state(), Owner, 0), before));
+    store.setKeyMapping(Owner, 0, 8, &w);
+    const auto list = differences(before, DeviceImage::of(store.state(), Owner, 0));
+    QCOMPARE(int(list.size()), 1);
+    QCOMPARE(list[0].keyIdx, 8);
+    // disabled, and two actions, are something else
+    const vantrix_key_mapping disabled = plainKey(0);
+    store.setKeyMapping(Owner, 0, 8, &disabled);
+    QCOMPARE(int(differences(before, DeviceImage::of(store.state(), Owner, 0)).size()), 1);
 }
 
 void tst_DeviceImage::functionNames_data()

@@ -192,12 +192,19 @@ void tst_ChangesPage::putsAMacroBack()
     QTRY_VERIFY(pending()->topLevelItemCount() > 0);
     const QByteArray before = store.state().toBytes();
     QSignalSpy added(&m_shell->context, &ShellContext::macroAdded);
+    QStringList log;
+    connect(&store, &ProfileStore::stepsChanged, this, [&log] { log << QStringLiteral("step"); });
+    connect(&m_shell->context, &ShellContext::status, this,
+            [&log](const QString &text) { log << text; });
     press("m_putBackAllBtn");
     const StoreState &state = store.state();
     QCOMPARE(state.macroKey(Owner, 0, 4), std::make_optional(name));
     QVERIFY(state.macro(Owner, name) == played);
     QCOMPARE(state.macroNames(Owner), names);
     QCOMPARE(added.count(), edits.contains("unassign") ? 0 : 1);
+    QCOMPARE(log.last(), edits.contains("unassign")
+                             ? QStringLiteral("step")
+                             : QStringLiteral("Back from the device, as a macro: %1").arg(name));
     QTRY_COMPARE(pending()->topLevelItemCount(), 0);
     QVERIFY(!m_shell->device().differs(Owner, 0));
     store.undo();

@@ -88,7 +88,11 @@ void tst_HistoryPage::longHistoryIsCut()
         m_shell->store().flush();
     }
     m_page->show();
-    QCOMPARE(list()->count(), 501);
+    QCOMPARE(list()->count(), 502);
+    const QListWidgetItem *const last = list()->item(501);
+    QCOMPARE(last->text(),
+             QStringLiteral("Earlier steps are listed when you go back to the oldest one here."));
+    QCOMPARE(last->flags(), Qt::ItemFlags(Qt::NoItemFlags));
 }
 
 VANTRIX_TEST_MAIN(tst_HistoryPage)

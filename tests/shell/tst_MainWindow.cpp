@@ -62,6 +62,8 @@ private slots:
     void hintLeavesWithTheMappingPage();
     void hintWaitsForNewsToBeRead();
     void hintIsNotForRecordingMacros();
+    void noStepsWhileRecording();
+    void statusGoesWithItsProfile();
     void captureKeepsShortcutsOut();
     void releasesOfOtherWindowsAreNotTaken();
     void pressForOneKeyIsNotTakenByAnother();
@@ -284,7 +286,7 @@ void tst_MainWindow::historyTravels()
     const int shown = m_window->mappingView()->showCount();
     emit m_shell->context.historyRequested(0);
     QCOMPARE(key(7)->text(), QStringLiteral("W"));
-    QCOMPARE(said(), QStringLiteral("Undone: Assign B to key 7"));
+    QCOMPARE(said(), QStringLiteral("Steps undone: 3"));
     QCOMPARE(m_shell->store().transactionCount(), transactions + 1);
     QCOMPARE(m_window->mappingView()->showCount(), shown + 1);
 }
@@ -662,6 +664,35 @@ void tst_MainWindow::hintIsNotForRecordingMacros()
     m_shell->store().flush();
     QVERIFY(m_shell->services.keyCapture().capturing());
     QVERIFY2(!said().contains(QStringLiteral("Key 7 (W)")), qPrintable(said()));
+}
+
+void tst_MainWindow::noStepsWhileRecording()
+{
+    assign(9, "btn_48");
+    const auto undo = [this] {
+        for (const QAction *action : m_window->findChildren<QAction *>()) {
+            if (action->shortcut() == QKeySequence(Qt::CTRL | Qt::Key_Z))
+                return action->isEnabled();
+        }
+        return false;
+    };
+    QVERIFY(undo());
+    m_window->showPage(ShellPage::Macros);
+    clickOn(child<QPushButton>(m_window.get(), "m_recordBtn"));
+    QVERIFY(!undo());
+    clickOn(child<QPushButton>(m_window.get(), "m_recordBtn"));
+    QVERIFY(undo());
+}
+
+void tst_MainWindow::statusGoesWithItsProfile()
+{
+    assign(7, "btn_48");
+    QCOMPARE(said(), QStringLiteral("Assign B to key 7"));
+    emit m_shell->context.goTo(3, NoKey);
+    QCOMPARE(said(), QString());
+    emit m_shell->context.status(QStringLiteral("It was copied."));
+    emit m_shell->context.goTo(4, NoKey);
+    QCOMPARE(said(), QStringLiteral("It was copied."));
 }
 
 void tst_MainWindow::captureKeepsShortcutsOut()

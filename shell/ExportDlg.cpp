@@ -62,6 +62,7 @@ ExportDlg::ExportDlg(ShellContext &context, QWidget *parent)
     setTabOrder(none, m_list);
     setTabOrder(m_list, cancel);
     setTabOrder(cancel, m_exportBtn);
+    m_list->setFocus();
 
     fill();
     connect(m_list, &QListWidget::itemChanged, this, &ExportDlg::showState);

@@ -44,6 +44,7 @@ private slots:
     void saysWhatWasLeftOut();
     void openByTheUser();
     void openAndImportByEnter();
+    void tabGoesFromTopToBottom();
     void cancelChangesNothing();
 
 private:
@@ -415,6 +416,31 @@ void tst_ExchangeDlg::openAndImportByEnter()
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
     QCOMPARE(store().state().mapping(0, 0, 7), plainKey(5));
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void tst_ExchangeDlg::tabGoesFromTopToBottom()
+{
+    const auto stops = [](QDialog &dialog, int count) {
+        QStringList names;
+        for (int i = 0; i < count; ++i) {
+            const QWidget *const stop = dialog.focusWidget();
+            names << (qobject_cast<const QComboBox *>(stop) ? QStringLiteral("target")
+                                                            : stop->objectName());
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        }
+        return names.join(' ');
+    };
+    ExportDlg exported(m_shell->context);
+    exported.show();
+    QVERIFY(QTest::qWaitForWindowActive(&exported));
+    QCOMPARE(stops(exported, 5), QStringLiteral("m_exportList m_exportCancelBtn m_exportBtn "
+                                                "m_exportAllBtn m_exportNoneBtn"));
+    ImportDlg imported(m_shell->context);
+    imported.show();
+    QVERIFY(QTest::qWaitForWindowActive(&imported));
+    QVERIFY(imported.openFile(write("two.json", json({2, 3}))));
+    QCOMPARE(stops(imported, 6), QStringLiteral("m_importList target target m_importCancelBtn "
+                                                "m_importBtn m_importOpenBtn"));
 }
 
 void tst_ExchangeDlg::cancelChangesNothing()

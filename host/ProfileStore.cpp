@@ -37,7 +37,10 @@ ProfileStore::ProfileStore(const QString &fileName, QObject *parent)
 {
     take(m_keeper->open());
     m_retry.setInterval(RetryMs);
-    connect(&m_retry, &QTimer::timeout, this, &ProfileStore::save);
+    connect(&m_retry, &QTimer::timeout, this, [this] {
+        if (m_stepDepth == 0 && !m_turnScheduled) // else the end of the step or turn saves
+            save();
+    });
     m_wasSaved = m_keeper->isSaved();
     if (!m_wasSaved)
         m_retry.start();
@@ -49,7 +52,7 @@ ProfileStore::~ProfileStore()
     m_stepDepth = 0;
     const QSignalBlocker silence(this);
     if (flush())
-        m_keeper->close();
+        m_keeper->close(m_state, m_history);
 }
 
 void ProfileStore::take(StoreContent content)
@@ -334,12 +337,14 @@ void ProfileStore::setStepLimit(int limit)
 
 bool ProfileStore::save()
 {
-    const bool saved = m_keeper->save(m_state, m_history, m_unsaved);
+    bool saved = m_keeper->save(m_state, m_history, m_unsaved);
+    if (auto found = m_keeper->takeFound()) {
+        replaceAll(std::move(*found));
+        m_history.markSaved();
+        saved = m_unsaved.empty() || m_keeper->save(m_state, m_history, m_unsaved);
+    }
     if (saved) {
-        if (auto found = m_keeper->takeFound())
-            replaceAll(std::move(*found));
-        else
-            m_unsaved.clear();
+        m_unsaved.clear();
         m_history.markSaved();
         m_retry.stop();
     } else if (!m_retry.isActive()) {

@@ -73,7 +73,8 @@ std::filesystem::path pathOf(const QString &name)
 
 const QStringList &companions()
 {
-    static const QStringList suffixes = {QStringLiteral("-wal"), QStringLiteral("-shm")};
+    static const QStringList suffixes = {QStringLiteral("-wal"), QStringLiteral("-shm"),
+                                         QStringLiteral("-journal")};
     return suffixes;
 }
 

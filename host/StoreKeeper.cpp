@@ -178,11 +178,42 @@ StoreError StoreKeeper::openNew(StoreContent *content)
 {
     // a journal without its file would be played on the next one of that name
     StoreFile::setAside(m_name, QStringLiteral("missing"));
+    if (hasAll())
+        return openFresh(content);
     bool isFound = false;
     const StoreError error = openCopy(content, &isFound);
     if (isFound && isNews(*content))
         say(tr("The store %1 was missing. The last good copy of it is used.")
                 .arg(shortName(m_name)));
+    return error;
+}
+
+/// Whether memory has what the store held, so that no copy and no empty store takes its place.
+bool StoreKeeper::hasAll() const
+{
+    return isOwner() || (m_base && *m_base != printOf(StoreContent()));
+}
+
+/// Puts a store with all that memory has where none is; without room for it, nothing appears.
+StoreError StoreKeeper::createWhole()
+{
+    const QString unfinished = m_name + QStringLiteral(".new");
+    StoreFile::remove(unfinished);
+    StoreError error = StoreFile::create(unfinished);
+    if (error == StoreError::None) {
+        StoreFile file;
+        error = file.open(unfinished, StoreFile::ReadWrite);
+        if (error == StoreError::None)
+            error = file.saveAll(*m_state, *m_history);
+    }
+    if (error == StoreError::None && QFile::exists(unfinished + QStringLiteral("-wal")))
+        error = StoreError::Full; // its journal could not be taken in
+    if (error == StoreError::None && !StoreFile::replace(unfinished, m_name))
+        error = StoreError::ReadOnly;
+    if (error != StoreError::None)
+        StoreFile::remove(unfinished);
+    else
+        m_base.reset();
     return error;
 }
 
@@ -196,7 +227,7 @@ bool StoreKeeper::isNews(const StoreContent &content) const
 StoreError StoreKeeper::openFresh(StoreContent *content)
 {
     if (!QFile::exists(m_name)) {
-        const StoreError error = StoreFile::create(m_name);
+        const StoreError error = hasAll() ? createWhole() : StoreFile::create(m_name);
         if (error != StoreError::None)
             return error;
     }
@@ -218,8 +249,10 @@ StoreError StoreKeeper::openCopy(StoreContent *content, bool *isFound)
         const StoreError error = backup.copyTo(m_name);
         return error == StoreError::None ? openFresh(content) : error;
     }
-    if (QFile::exists(backupName()) && reading != StoreError::Damaged) {
-        const QString aside = StoreFile::setAside(backupName(), QStringLiteral("unread"));
+    if (QFile::exists(backupName())) {
+        const QString aside = StoreFile::setAside(backupName(), reading == StoreError::Damaged
+                                                                    ? QStringLiteral("broken")
+                                                                    : QStringLiteral("unread"));
         if (aside.isEmpty())
             return StoreError::ReadOnly;
         say(tr("The copy %1 cannot be read. It was kept as %2.")
@@ -239,7 +272,7 @@ StoreError StoreKeeper::openInsteadOf(StoreError error, StoreContent *content)
     text = text.arg(shortName(m_name)) + QLatin1Char(' ') +
            (aside.isEmpty() ? tr("It was left as it is.")
                             : tr("It was kept as %1.").arg(shortName(aside)));
-    if (isOwner()) { // memory has it all
+    if (hasAll()) {
         say(text);
         return aside.isEmpty() ? StoreError::ReadOnly : openFresh(content);
     }
@@ -267,8 +300,11 @@ StoreError StoreKeeper::openOlder(StoreContent *content)
     original.open(m_name, StoreFile::ReadOnlyAccess);
     StoreError error = original.copyTo(kept);
     original.close();
-    if (error == StoreError::None)
+    if (error == StoreError::None) {
         error = StoreMigration::migrate(m_name, m_name);
+        if (error != StoreError::None)
+            StoreFile::remove(kept); // each attempt would leave another one
+    }
     if (error == StoreError::None)
         error = m_file.open(m_name, StoreFile::ReadWrite);
     if (error == StoreError::None) {
@@ -282,6 +318,9 @@ StoreError StoreKeeper::openOlder(StoreContent *content)
 
 bool StoreKeeper::reopen()
 {
+    // the file could not be reached for a while
+    if (isOwner() && StoreFile::idOf(m_name) == m_ownId)
+        m_lossNote.clear();
     // the file was this program's, and another one is there now, or none
     if (isLost() || (isOwner() && StoreFile::idOf(m_name) != m_ownId))
         return writeAnew();
@@ -369,7 +408,7 @@ StoreError StoreKeeper::makeAnew()
         return StoreError::ReadOnly;
     for (const QString &left : {QStringLiteral("-wal"), QStringLiteral("-shm")})
         QFile::remove(m_name + left);
-    const StoreError error = StoreFile::create(m_name);
+    const StoreError error = createWhole();
     return error == StoreError::None ? m_file.open(m_name, StoreFile::ReadWrite) : error;
 }
 
@@ -383,6 +422,8 @@ bool StoreKeeper::save(const StoreState &state, const StoreHistory &history,
     if (m_access == SecondReader)
         return true;
     m_saved = false;
+    m_state = &state;
+    m_history = &history;
     const bool ready = m_access == Writer ? checkPlace() : reopen();
     if (!ready)
         return false;
@@ -426,10 +467,20 @@ void StoreKeeper::settle()
     m_ownId = m_file.id();
 }
 
-void StoreKeeper::close()
+void StoreKeeper::close(const StoreState &state, const StoreHistory &history)
 {
-    if (m_access == Writer && m_saved && m_file.isOpen() && !m_backupIsFresh && m_file.isInPlace())
-        m_file.copyTo(backupName());
+    if (m_access == Writer && m_saved && m_file.isOpen() && !m_backupIsFresh &&
+        m_file.isInPlace() && m_file.copyTo(backupName()) != StoreError::None) {
+        m_file.close();
+        m_state = &state;
+        m_history = &history;
+        // it may have been damaged while the program was running, and memory has it all
+        if (StoreFile().open(m_name, StoreFile::ReadOnlyAccess) == StoreError::Damaged &&
+            !StoreFile::setAside(m_name, QStringLiteral("broken")).isEmpty() &&
+            createWhole() == StoreError::None &&
+            m_file.open(m_name, StoreFile::ReadWrite) == StoreError::None)
+            m_file.copyTo(backupName());
+    }
     m_file.close();
     m_lock.unlock();
     m_access = InMemory;

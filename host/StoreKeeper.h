@@ -37,7 +37,7 @@ public:
     bool save(const StoreState &state, const StoreHistory &history,
               const std::set<RecordId> &changed);
     /// Makes the last good copy, then lets go of file and lock. Only after a successful save.
-    void close();
+    void close(const StoreState &state, const StoreHistory &history);
 
     bool isSecondReader() const { return m_access == SecondReader; }
     /// False while changes wait for a disk that takes them.
@@ -73,6 +73,8 @@ private:
     StoreError replaceFound();
     void settle();
     bool isOwner() const { return m_ownId != 0; }
+    bool hasAll() const;
+    StoreError createWhole();
     bool isLockOfAnother();
     bool isNews(const StoreContent &content) const;
     bool checkPlace();
@@ -100,4 +102,6 @@ private:
     bool m_saved = true;
     bool m_backupIsFresh = false;
     int m_transactions = 0;
+    const StoreState *m_state = nullptr; ///< what `save` was given, while it runs
+    const StoreHistory *m_history = nullptr;
 };

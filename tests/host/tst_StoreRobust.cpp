@@ -47,6 +47,15 @@ private slots:
     void removedAndClosed();
     void lockOfAnotherProgram();
     void olderTwice();
+    void roomForAnEmptyStoreOnly_data();
+    void roomForAnEmptyStoreOnly();
+    void memoryComesBeforeCopies_data();
+    void memoryComesBeforeCopies();
+    void settingsMadeBeforeItCouldBeRead();
+    void olderThatCannotBeMigrated();
+    void folderThatCannotBeEnteredForAWhile();
+    void nothingIsSavedInsideAStep();
+    void damagedWhileRunning();
     void secondStoreCannotRead();
     void journalInReadOnlyFolder();
     void fullDiskAtStart();
@@ -155,14 +164,14 @@ public:
 };
 
 #ifdef Q_OS_LINUX
-/// No file can grow, as on a full disk.
+/// No file can grow beyond a size, as on a full disk.
 class FullDisk
 {
 public:
-    FullDisk()
+    explicit FullDisk(rlim_t room = 0)
     {
         ::getrlimit(RLIMIT_FSIZE, &m_limit);
-        const rlimit none = {0, m_limit.rlim_max};
+        const rlimit none = {room, m_limit.rlim_max};
         m_handler = std::signal(SIGXFSZ, SIG_IGN);
         ::setrlimit(RLIMIT_FSIZE, &none);
     }
@@ -313,10 +322,14 @@ void tst_StoreRobust::brokenCopyToo()
     write(file(), "nonsense");
     write(file() + QStringLiteral(".bak"), "nonsense");
     const ProfileStore store(file());
-    QCOMPARE(store.messages().size(), 1);
-    QVERIFY(store.messages().at(0).endsWith(
-        QStringLiteral("There is no good copy of it, so everything starts empty.")));
+    QCOMPARE(store.messages(),
+             QStringList({QStringLiteral("The copy my.store.bak cannot be read. It was kept as "
+                                         "my.store.bak.broken-1."),
+                          QStringLiteral("The store my.store is damaged and cannot be read. It was "
+                                         "kept as my.store.broken-1. There is no good copy of it, "
+                                         "so everything starts empty.")}));
     QCOMPARE(codeOf(store, 1), 255);
+    QCOMPARE(read(file() + QStringLiteral(".bak.broken-1")), QByteArray("nonsense"));
 }
 
 void tst_StoreRobust::missingFile()
@@ -610,8 +623,9 @@ void tst_StoreRobust::damagedBeforeItCouldBeRead()
     }
     QVERIFY(store->flush());
     QCOMPARE(store->messages().mid(2),
-             QStringList(
-                 {QString::fromLatin1(Damaged), QStringLiteral("All changes are saved again.")}));
+             QStringList({QStringLiteral("The store my.store is damaged and cannot be read. It was "
+                                         "kept as my.store.broken-1."),
+                          QStringLiteral("All changes are saved again.")}));
     QCOMPARE(read(file() + QStringLiteral(".broken-1")), QByteArray("nonsense"));
     checkReopened(std::move(store));
 #else
@@ -702,6 +716,210 @@ void tst_StoreRobust::olderTwice()
         QCOMPARE(read(file() + QLatin1String(kept)).isEmpty(), false);
         QVERIFY(store.messages().first().contains(QLatin1String(kept)));
     }
+}
+
+void tst_StoreRobust::roomForAnEmptyStoreOnly_data()
+{
+    QTest::addColumn<bool>("isReplaced");
+    QTest::newRow("removed") << false;
+    QTest::newRow("replaced") << true;
+}
+
+/// An empty store in place of a full one would be taken for the last word at the next start.
+void tst_StoreRobust::roomForAnEmptyStoreOnly()
+{
+#ifdef Q_OS_LINUX
+    QFETCH(bool, isReplaced);
+    {
+        ProfileStore store(file());
+        for (int i = 0; i < 200; ++i) {
+            store.setProfileName(Owner, i % 24, QString::number(i).repeated(40));
+            assign(store, i % 28, ushort(5 + i % 20));
+            store.flush();
+        }
+    }
+    {
+        ProfileStore store(file());
+        QVERIFY(QFile::remove(file()));
+        if (isReplaced)
+            write(file(), "another");
+        const FullDisk nearly(34000);
+        QVERIFY(!store.flush());
+        QVERIFY(store.hasUnsavedWork());
+    }
+    const ProfileStore again(file());
+    QCOMPARE(again.messages(),
+             QStringList(QStringLiteral(
+                 "The store my.store was missing. The last good copy of it is used.")));
+    QCOMPARE(again.stepNames().size(), 200);
+#else
+    QSKIP("needs a limit on the size of files");
+#endif
+}
+
+void tst_StoreRobust::memoryComesBeforeCopies_data()
+{
+    QTest::addColumn<bool>("isDamaged");
+    QTest::addColumn<bool>("hasCopy");
+    QTest::addColumn<bool>("isEdited");
+    for (int i = 0; i < 8; ++i) {
+        QTest::addRow("damaged %d, copy %d, edited %d", i & 1, i >> 1 & 1, i >> 2)
+            << bool(i & 1) << bool(i >> 1 & 1) << bool(i >> 2);
+    }
+}
+
+/// Read whole where nothing could be written; then the file goes.
+void tst_StoreRobust::memoryComesBeforeCopies()
+{
+#ifdef Q_OS_LINUX
+    QFETCH(bool, isDamaged);
+    QFETCH(bool, hasCopy);
+    QFETCH(bool, isEdited);
+    const QString copy = file() + QStringLiteral(".bak");
+    const QString older = file() + QStringLiteral(".older");
+    makeStore();
+    QVERIFY(QFile::rename(copy, older));
+    {
+        ProfileStore store(file());
+        assign(store, 3, 6);
+    }
+    QVERIFY(QFile::remove(copy));
+    if (hasCopy)
+        QVERIFY(QFile::rename(older, copy));
+    letOthersRead();
+    std::unique_ptr<ProfileStore> store;
+    {
+        const OrdinaryUser user;
+        store = std::make_unique<ProfileStore>(file());
+        if (isEdited)
+            assign(*store, 2, 5);
+        QVERIFY(!store->flush());
+    }
+    QVERIFY(QFile::remove(file()));
+    if (isDamaged)
+        write(file(), "nonsense");
+    QTRY_VERIFY(store->isSaved());
+    store.reset();
+    const ProfileStore again(file());
+    QCOMPARE(codeOf(again, 1), 4);
+    QCOMPARE(codeOf(again, 2), isEdited ? 5 : 255);
+    QCOMPARE(codeOf(again, 3), 6);
+    QVERIFY(!QFile::exists(file() + QStringLiteral(".unread-1")));
+#else
+    QSKIP("needs a second user");
+#endif
+}
+
+/// It can be read as the program closes.
+void tst_StoreRobust::settingsMadeBeforeItCouldBeRead()
+{
+    makeStore();
+    QVERIFY(QFile::remove(file() + QStringLiteral(".bak")));
+    std::unique_ptr<ProfileStore> store;
+    {
+        const Holder holder(file());
+        store = std::make_unique<ProfileStore>(file());
+        store->setMacroAssignLimit(7);
+        store->setAppPath(1, QStringLiteral("/mine"));
+        QVERIFY(!store->flush());
+    }
+    store.reset();
+    ProfileStore again(file());
+    QString path;
+    again.getAppPath(1, path);
+    QCOMPARE(path, QStringLiteral("/mine"));
+    QCOMPARE(again.macroAssignLimit(), 7);
+    QCOMPARE(codeOf(again, 1), 4);
+}
+
+void tst_StoreRobust::olderThatCannotBeMigrated()
+{
+    makeStore();
+    QVERIFY(QFile::remove(file() + QStringLiteral(".bak")));
+    runSql(file(), {QStringLiteral("DROP TABLE record"), QStringLiteral("CREATE TABLE record(a)"),
+                    QStringLiteral("PRAGMA user_version=1")});
+    ProfileStore store(file());
+    for (int i = 0; i < 3; ++i) {
+        assign(store, 2, ushort(5 + i));
+        QVERIFY(!store.flush());
+    }
+    QVERIFY(QFile::exists(file()));
+    QVERIFY(!QFile::exists(file() + QStringLiteral(".v1-2")));
+}
+
+void tst_StoreRobust::folderThatCannotBeEnteredForAWhile()
+{
+#ifdef Q_OS_LINUX
+    makeStore();
+    QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7077));
+    QFile::setPermissions(file(), QFile::Permissions(0x6666));
+    std::unique_ptr<ProfileStore> store;
+    {
+        const OrdinaryUser user;
+        store = std::make_unique<ProfileStore>(file());
+        QVERIFY(store->isSaved());
+    }
+    QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7000));
+    {
+        const OrdinaryUser user;
+        assign(*store, 2, 5);
+        QVERIFY(!store->flush());
+    }
+    QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7077));
+    {
+        const OrdinaryUser user;
+        QVERIFY(store->flush());
+    }
+    QVERIFY(!QFile::exists(file() + QStringLiteral(".replaced-1")));
+    QCOMPARE(store->messages().last(), QStringLiteral("All changes are saved again."));
+    checkReopened(std::move(store));
+#else
+    QSKIP("needs a second user");
+#endif
+}
+
+void tst_StoreRobust::nothingIsSavedInsideAStep()
+{
+    makeStore();
+    ProfileStore store(file());
+    store.setPageLimit(store.pageCount());
+    for (int size = 1000; store.isSaved() && size < 1'000'000; size *= 2) {
+        store.setSetting(QStringLiteral("large"), QString(size, QLatin1Char('x')));
+        store.flush();
+    }
+    QVERIFY(!store.isSaved());
+    store.setPageLimit(0);
+    store.beginStep(QStringLiteral("Step"));
+    assign(store, 2, 5);
+    QTest::qWait(2500); // an attempt to save comes every two seconds
+    QVERIFY(!store.isSaved());
+    store.endStep();
+    QTRY_VERIFY(store.isSaved());
+    QCOMPARE(store.stepNames().last(), QStringLiteral("Step"));
+}
+
+/// The file is found to be damaged when its copy is to be made.
+void tst_StoreRobust::damagedWhileRunning()
+{
+    makeStore();
+    {
+        ProfileStore store(file());
+        for (int i = 0; i < 60; ++i)
+            store.setSetting(QStringLiteral("n%1").arg(i), QString(100000, QLatin1Char('a')));
+    }
+    {
+        ProfileStore store(file());
+        QFile damaged(file());
+        QVERIFY(damaged.open(QIODevice::ReadWrite));
+        QVERIFY(damaged.seek(damaged.size() / 2 & ~4095));
+        damaged.write(QByteArray(8192, '\x5a'));
+        damaged.close();
+        assign(store, 2, 5);
+        store.flush();
+    }
+    const ProfileStore again(file());
+    QCOMPARE(codeOf(again, 1), 4);
+    QCOMPARE(codeOf(again, 2), 5);
 }
 
 void tst_StoreRobust::secondStoreCannotRead()

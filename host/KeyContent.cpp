@@ -15,6 +15,11 @@ bool operator==(const KeyContent &a, const KeyContent &b)
            a.shortcut == b.shortcut && a.extended == b.extended && a.macroName == b.macroName;
 }
 
+bool hasExtra(const KeyContent &key)
+{
+    return key.app || key.hotKey || key.shortcut || key.extended || key.macroName;
+}
+
 vantrix_key_mapping freshMapping(int keyIdx)
 {
     return keyIdx == BacklightKey ? plainKey(BacklightKeyCode) : clearedKey();
@@ -37,8 +42,8 @@ ProfileKeys freshKeys()
 
 KeyContent actingKey(int keyIdx, KeyContent key)
 {
-    const bool hasExtra = key.app || key.hotKey || key.shortcut || key.extended || key.macroName;
-    if (!hasExtra && !isDualAction(key.mapping) && effectiveCode(key.mapping) == UnassignedCode)
+    if (!hasExtra(key) && !isDualAction(key.mapping) &&
+        effectiveCode(key.mapping) == UnassignedCode)
         key.mapping = plainKey(defaultCodeOfKey(keyIdx));
     return key;
 }

@@ -23,6 +23,9 @@ inline bool operator!=(const KeyContent &a, const KeyContent &b)
     return !(a == b);
 }
 
+/// Whether a key holds anything beyond its mapping.
+bool hasExtra(const KeyContent &key);
+
 /// What a key holds that nothing was ever assigned to: code 255, and 385 on key 21, whose own
 /// function is a backlight code.
 vantrix_key_mapping freshMapping(int keyIdx);

@@ -95,19 +95,6 @@ QJsonObject jsonOf(const ExchangeContent::Profile &profile)
     return object;
 }
 
-/// The name of a macro in a store: its own, or one like it when another macro has that. What an
-/// earlier import of the same macro was named is taken again.
-QString nameFor(const ExchangeContent::Macro &macro, const ProfileStore &store, int owner)
-{
-    QString name = macro.name;
-    for (int number = 2;; ++number) {
-        const auto record = store.state().macro(owner, name);
-        if (!record || record == macro.record)
-            return name;
-        name = QStringLiteral("%1 %2").arg(macro.name).arg(number);
-    }
-}
-
 /// Names of the macros that keys of these profiles hold.
 std::set<QString> macrosOn(const std::vector<ExchangeContent::Profile> &profiles)
 {
@@ -187,7 +174,8 @@ ExchangeReport ProfileExchange::put(const ExchangeContent &content, ProfileStore
     ExchangeReport report;
     std::map<QString, QString> newNames;
     for (const ExchangeContent::Macro &macro : content.macros) {
-        const QString name = nameFor(macro, store, owner);
+        // what an earlier import of the same macro was named is taken again
+        const QString name = store.freeMacroName(owner, macro.name, macro.record);
         store.addMacro(owner, name, macro.record); // unless it is there
         if (name != macro.name) {
             newNames[macro.name] = name;

@@ -631,11 +631,15 @@ std::pair<QString, bool> ProfileStore::macroPlaying(int owner, const QString &wa
     return {name, true};
 }
 
-QString ProfileStore::freeMacroName(int owner, const QString &wanted) const
+QString ProfileStore::freeMacroName(int owner, const QString &wanted,
+                                    const std::optional<vantrix_macro_record> &same) const
 {
     const QStringList names = m_state.macroNames(owner);
+    const auto isTaken = [&](const QString &name) {
+        return names.contains(name) && !(same && m_state.macro(owner, name) == same);
+    };
     QString name = wanted;
-    for (int number = 2; names.contains(name); ++number)
+    for (int number = 2; isTaken(name); ++number)
         name = QStringLiteral("%1 %2").arg(wanted).arg(number);
     return name;
 }

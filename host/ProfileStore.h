@@ -141,12 +141,13 @@ public:
     bool removeMacro(int owner, const QString &name);
     bool moveMacro(int owner, int from, int to);
     /// For a key that is to play `record`, whatever its code: the macro of the wanted name when it
-    /// plays that, else another one that does, else one
-    /// that is added under a free name. `second` is true for one that was added.
+    /// plays that, else another one that does, else one that is added under a free name. `second`
+    /// is true for one that was added.
     std::pair<QString, bool> macroPlaying(int owner, const QString &wanted,
                                           const vantrix_macro_record &record);
-    /// The name, or "NAME 2" and so on, that no macro has yet.
-    QString freeMacroName(int owner, const QString &wanted) const;
+    /// The name, or "NAME 2" and so on, that no macro has yet, but for one that is `same`.
+    QString freeMacroName(int owner, const QString &wanted,
+                          const std::optional<vantrix_macro_record> &same = std::nullopt) const;
     /// Profile and key of every key that holds the macro.
     std::vector<std::pair<int, int>> keysOfMacro(int owner, const QString &name) const;
 

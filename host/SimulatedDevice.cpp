@@ -33,7 +33,7 @@ std::vector<ushort> expand(ushort code)
     return found == SymbolKeySequences().end() ? std::vector<ushort>{code} : found->second;
 }
 
-bool hasExtra(const KeyContent &key)
+bool playsSequence(const KeyContent &key)
 {
     const bool plainFunction = key.app && ushort(key.app->macro.code) == 0;
     return (key.app && !plainFunction) || key.hotKey || key.shortcut || key.extended ||
@@ -221,7 +221,7 @@ std::vector<DeviceEvent> SimulatedDevice::releaseAll()
 
 bool SimulatedDevice::hasSecondEdge(const KeyContent &key) const
 {
-    return !hasExtra(key) && isDualAction(key.mapping) &&
+    return !playsSequence(key) && isDualAction(key.mapping) &&
            ushort(key.mapping.digital.secondAction) != 0 && isPressureEnabled();
 }
 
@@ -239,7 +239,7 @@ void SimulatedDevice::goDown(Motion &motion, Events &events)
     motion.isDown = true;
     motion.isPastDepth = false;
     const vantrix_key_mapping &mapping = motion.key.content.mapping;
-    if (hasExtra(motion.key.content))
+    if (playsSequence(motion.key.content))
         play(motion.key.sequence, events);
     else if (isDualAction(mapping))
         press(motion, mapping.digital.firstAction, events);

@@ -406,8 +406,7 @@ StoreError StoreKeeper::makeAnew()
         m_lock.unlock();
     if (!lock())
         return StoreError::ReadOnly;
-    for (const QString &left : {QStringLiteral("-wal"), QStringLiteral("-shm")})
-        QFile::remove(m_name + left);
+    StoreFile::remove(m_name); // what SQLite left beside it
     const StoreError error = createWhole();
     return error == StoreError::None ? m_file.open(m_name, StoreFile::ReadWrite) : error;
 }

@@ -25,7 +25,7 @@ std::optional<KeyContent> functionOf(int keyIdx, const KeyContent &content)
     if (KeyText::inputType(keyIdx, content) == InputType::Disabled)
         return std::nullopt;
     KeyContent key = actingKey(keyIdx, content);
-    if (key.app || key.hotKey || key.shortcut || key.extended || key.macroName)
+    if (hasExtra(key))
         key.mapping = clearedKey();
     if (key.app)
         key.app->macro = vantrix_macro_record();

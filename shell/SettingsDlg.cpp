@@ -46,8 +46,8 @@ SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
     auto *form = new QFormLayout(this);
     form->setContentsMargins(16, 16, 16, 16);
     form->addRow(tr("&Language:"), m_language);
-    m_stops << m_language;
-    addPathRow(form, tr("&Hot-key catalog:"), m_hotKeys, [this] {
+    QList<QWidget *> stops{m_language};
+    stops += addPathRow(form, tr("&Hot-key catalog:"), m_hotKeys, [this] {
         return Modal::openFolder(this, tr("Hot-key catalog"), m_hotKeys->text());
     });
     for (int type = 0; type < AppType::Count; ++type) {
@@ -59,7 +59,7 @@ SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
         m_shownPaths[std::size_t(type)] = path;
         edit->setPlaceholderText(tr("not found"));
         m_apps[std::size_t(type)] = edit;
-        addPathRow(form, appTypeText(type) + QLatin1Char(':'), edit, [this, edit] {
+        stops += addPathRow(form, appTypeText(type) + QLatin1Char(':'), edit, [this, edit] {
             return Modal::openFileName(this, tr("Program"), edit->text(), QString());
         });
     }
@@ -73,10 +73,10 @@ SettingsDlg::SettingsDlg(ShellContext &context, QWidget *parent)
     m_message->hide();
     form->addRow(m_message);
     form->addRow(buttons);
-    m_stops << m_macroAssigns << buttons->button(QDialogButtonBox::Ok)
-            << buttons->button(QDialogButtonBox::Cancel);
-    for (int i = 1; i < m_stops.size(); ++i)
-        setTabOrder(m_stops[i - 1], m_stops[i]);
+    stops << m_macroAssigns << buttons->button(QDialogButtonBox::Ok)
+          << buttons->button(QDialogButtonBox::Cancel);
+    for (int i = 1; i < stops.size(); ++i)
+        setTabOrder(stops[i - 1], stops[i]);
     connect(buttons, &QDialogButtonBox::accepted, this, &SettingsDlg::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &SettingsDlg::reject);
 }
@@ -89,8 +89,9 @@ void SettingsDlg::fillLanguages()
     m_language->setCurrentIndex(m_language->findData(language));
 }
 
-void SettingsDlg::addPathRow(QFormLayout *form, const QString &title, QLineEdit *edit,
-                             const std::function<QString()> &browse)
+/// Gives what the Tab key stops at, in order.
+QList<QWidget *> SettingsDlg::addPathRow(QFormLayout *form, const QString &title, QLineEdit *edit,
+                                         const std::function<QString()> &browse)
 {
     auto *row = new QWidget(this);
     auto *button = new QPushButton(tr("BROWSE"), row);
@@ -101,12 +102,12 @@ void SettingsDlg::addPathRow(QFormLayout *form, const QString &title, QLineEdit 
     form->addRow(title, row);
     qobject_cast<QLabel *>(form->labelForField(row))->setBuddy(edit);
     edit->setAcceptDrops(false); // a file comes as an address, which is no path
-    m_stops << edit << button;
     connect(button, &QPushButton::clicked, edit, [edit, browse] {
         const QString path = browse();
         if (!path.isEmpty())
             edit->setText(path);
     });
+    return {edit, button};
 }
 
 /// Says what is wrong with a path that was edited, and goes there; true when nothing is.

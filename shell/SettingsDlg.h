@@ -23,8 +23,8 @@ public:
 
 private:
     void fillLanguages();
-    void addPathRow(QFormLayout *form, const QString &title, QLineEdit *edit,
-                    const std::function<QString()> &browse);
+    QList<QWidget *> addPathRow(QFormLayout *form, const QString &title, QLineEdit *edit,
+                                const std::function<QString()> &browse);
     bool checkPath(QLineEdit *edit, const QString &shown, bool isFolder);
 
     ShellContext &m_context;
@@ -34,5 +34,4 @@ private:
     std::array<QString, AppType::Count> m_shownPaths;
     QSpinBox *m_macroAssigns;
     QLabel *m_message;
-    QList<QWidget *> m_stops; ///< of the Tab key, in order
 };
